@@ -1,0 +1,9 @@
+# Flags of every target of this project, and of none that links to it.
+add_library(pelmora_warnings INTERFACE)
+target_compile_options(pelmora_warnings INTERFACE
+  -Wall -Wextra -Wconversion -Wshadow
+  # A product and a sum fused into one rounding would give other digits on processors that can.
+  -ffp-contract=off)
+if(PELMORA_WARNINGS_AS_ERRORS)
+  target_compile_options(pelmora_warnings INTERFACE -Werror)
+endif()

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "pelmora/platform/wideChar.h"
+
+#include <concepts>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+
+namespace Pelmora::Native
+{
+
+/// One argument of a printf-style format with its type, so that a format that does not fit its
+/// arguments can be told from one that does. Refers to narrow text without copying it: lives no
+/// longer than that. Null pointers to text stand for "(null)".
+class FormatArgument
+{
+public:
+    /// An integer of at least 32 bits, as promotion makes it.
+    struct Integer {
+        std::uint64_t bits; ///< sign-extended for a signed type
+        bool is64;
+    };
+    using WideText = std::basic_string<WideChar>;
+    using Value = std::variant<Integer, double, std::string_view, WideText, const void*>;
+
+    // NOLINTBEGIN(google-explicit-constructor): an argument stands for its value
+    template <class T>
+    requires std::integral<T> || std::is_enum_v<T> FormatArgument(T value)
+        : value_(Integer{static_cast<std::uint64_t>(value), sizeof(T) > sizeof(std::int32_t)})
+    {
+    }
+    FormatArgument(double value) : value_(value) {}
+    FormatArgument(const char* text) : value_(text == nullptr ? "(null)" : std::string_view(text))
+    {
+    }
+    FormatArgument(std::string_view text) : value_(text) {}
+    FormatArgument(const std::string& text) : value_(std::string_view(text)) {}
+    FormatArgument(std::basic_string_view<WideChar> text) : value_(WideText(text)) {}
+    template <class Unit>
+    requires std::same_as<Unit, WideChar> || std::same_as<Unit, char16_t>
+    FormatArgument(const Unit* text) : value_(WideText())
+    {
+        constexpr Unit null[] = {'(', 'n', 'u', 'l', 'l', ')', 0};
+        const std::basic_string_view<Unit> view(text == nullptr ? null : text);
+        value_ = WideText(view.begin(), view.end());
+    }
+    FormatArgument(const void* pointer) : value_(pointer) {}
+    // NOLINTEND(google-explicit-constructor)
+
+    const Value& value() const noexcept { return value_; }
+
+private:
+    Value value_;
+};
+
+} // namespace Pelmora::Native

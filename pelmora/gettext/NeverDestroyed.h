@@ -1,0 +1,18 @@
+#pragma once
+
+namespace Pelmora::Native
+{
+
+/// Holds a process-wide object whose destructor never runs, so that other static objects may use
+/// it from theirs. Only for objects whose memory the end of the process may release.
+template <class T>
+union NeverDestroyed {
+    T value;
+
+    NeverDestroyed() : value() {}
+    ~NeverDestroyed() {} // NOLINT(modernize-use-equals-default): would be deleted
+    NeverDestroyed(const NeverDestroyed&) = delete;
+    NeverDestroyed& operator=(const NeverDestroyed&) = delete;
+};
+
+} // namespace Pelmora::Native

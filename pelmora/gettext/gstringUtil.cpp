@@ -1,0 +1,302 @@
+#include "pelmora/gettext/gstringUtil.h"
+
+#include "pelmora/gettext/NeverDestroyed.h"
+#include "pelmora/gettext/printfFormat.h"
+#include "pelmora/gettext/utf8.h"
+#include "pelmora/platform/codePages.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cwctype>
+#include <limits>
+#include <mutex>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+constexpr std::u16string_view falseText = u"false";
+constexpr std::u16string_view trueText = u"true";
+
+/// Whether ASCII text is the same bytes in the code page; not so in UTF-7 or EBCDIC, for instance.
+bool containsAscii(unsigned int codePage)
+{
+    return codePage == ansiCodePage || codePage == utf8CodePage ||
+           (codePage >= 1250 && codePage <= 1258);
+}
+
+bool isAscii(GString::View text)
+{
+    return std::all_of(text.begin(), text.end(), [](WideChar unit) { return unit < 0x80; });
+}
+
+template <class Char>
+std::basic_string_view<Char> upToNul(std::basic_string_view<Char> text)
+{
+    return text.substr(0, text.find(Char(0)));
+}
+
+/// The converter's buffer as the result. That it was too small is a mistake of this file, shown in
+/// debug builds only; what fitted is better than nothing.
+template <class Char>
+std::basic_string<Char> takenResult(Platform::ConversionStatus status,
+                                    std::basic_string<Char>&& buffer)
+{
+    if (status == Platform::ConversionStatus::failed)
+        return {};
+    assert(status != Platform::ConversionStatus::bufferTooSmall);
+    buffer.resize(upToNul(std::basic_string_view<Char>(buffer)).size());
+    return std::move(buffer);
+}
+
+GString::Text widened(std::string_view narrow, unsigned int codePage)
+{
+    narrow = upToNul(narrow);
+    if (containsAscii(codePage) && asciiPrefix(narrow) == narrow.size())
+        return {narrow.begin(), narrow.end()};
+    const std::string terminated(narrow);
+    GString::Text buffer(2 * narrow.size(), 0);
+    const auto status = Platform::decode(codePage, terminated.c_str(), buffer);
+    return takenResult(status, std::move(buffer));
+}
+
+bool equals(GString::View text, std::u16string_view other)
+{
+    return std::equal(text.begin(), text.end(), other.begin(), other.end());
+}
+
+template <class Mapping>
+GString mapped(GString::Text text, Mapping mapping)
+{
+    for (WideChar& unit : text)
+        unit = static_cast<WideChar>(mapping(static_cast<std::wint_t>(unit)));
+    return text;
+}
+
+/// The narrow buffers that are lent to C interfaces, each form of conversion with a ring of its
+/// own.
+class TemporaryStrings
+{
+public:
+    const char* keepAnsi(std::string&& text) { return keep(ansi_, std::move(text)); }
+    const char* keepOther(std::string&& text) { return keep(other_, std::move(text)); }
+
+private:
+    struct Ring {
+        std::array<std::string, 16> slots;
+        std::size_t index = 0;
+    };
+
+    const char* keep(Ring& ring, std::string&& text)
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        ring.index = (ring.index + 1) % ring.slots.size();
+        ring.slots[ring.index] = std::move(text);
+        return ring.slots[ring.index].c_str();
+    }
+
+    std::mutex mutex_;
+    Ring ansi_;
+    Ring other_;
+};
+
+TemporaryStrings& temporaryStrings()
+{
+    static NeverDestroyed<TemporaryStrings> strings;
+    return strings.value;
+}
+
+GString fromArgument(const FormatArgument& argument, std::string_view format)
+{
+    std::array<char, 50> buffer = {};
+    const std::ptrdiff_t length = formatInto<char>(buffer, format, {&argument, 1});
+    const std::size_t used = length < 0 ? buffer.size() : static_cast<std::size_t>(length);
+    return GString(std::string_view(buffer.data(), used));
+}
+
+} // namespace
+
+GString::GString(std::string_view narrow, unsigned int codePage)
+    : text_(narrow.empty() ? Text() : widened(narrow, codePage))
+{
+}
+
+GString GString::from_utf8(std::string_view utf8)
+{
+    // Too few for a supplementary character, on purpose: a unit is all that a character may need.
+    constexpr int longestSequence = 3;
+    Text text;
+    text.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const std::size_t ascii = asciiPrefix(utf8);
+        text.append(utf8.begin(), utf8.begin() + static_cast<std::ptrdiff_t>(ascii));
+        utf8.remove_prefix(ascii);
+        if (utf8.empty())
+            break;
+        std::uint32_t value = 0;
+        const int length = decodeUtf8(utf8, longestSequence, value);
+        if (length < 1)
+            throw static_cast<const char*>("UTF8 error: source too large");
+        text += static_cast<WideChar>(value);
+        utf8.remove_prefix(static_cast<std::size_t>(length));
+    }
+    return text;
+}
+
+std::string GString::to_narrow(unsigned int codePage) const
+{
+    if (text_.empty())
+        return {};
+    if (codePage == utf8CodePage)
+        return to_utf8();
+    const View text = upToNul(View(text_));
+    if (containsAscii(codePage) && isAscii(text)) {
+        std::string narrow(text.size(), '\0');
+        std::transform(text.begin(), text.end(), narrow.begin(),
+                       [](WideChar unit) { return static_cast<char>(unit); });
+        return narrow;
+    }
+    std::string buffer((text_.size() + 1) * 3, '\0');
+    const auto status = Platform::encode(codePage, text_.c_str(), buffer);
+    return takenResult(status, std::move(buffer));
+}
+
+std::string GString::to_utf8() const
+{
+    std::string result;
+    result.reserve(text_.size());
+    std::array<char, 4> sequence = {};
+    for (const WideChar unit : text_) {
+        const int length = encodeUtf8(unit, sequence);
+        if (length < 1)
+            throw static_cast<const char*>("UTF8 error: result too large");
+        result.append(sequence.data(), static_cast<std::size_t>(length));
+    }
+    return result;
+}
+
+const char* GString::to_temp_c_str() const
+{
+    return temporaryStrings().keepAnsi(to_narrow());
+}
+
+const char* GString::to_temp_c_str(unsigned int codePage) const
+{
+    return temporaryStrings().keepOther(to_narrow(codePage));
+}
+
+GString GString::to_lower() const
+{
+    return mapped(text_, [](std::wint_t unit) { return std::towlower(unit); });
+}
+
+GString GString::to_upper() const
+{
+    return mapped(text_, [](std::wint_t unit) { return std::towupper(unit); });
+}
+
+bool GString::is_alpha(WideChar unit) noexcept
+{
+    return std::iswalpha(static_cast<std::wint_t>(unit)) != 0;
+}
+
+bool GString::is_punct(WideChar unit) noexcept
+{
+    return std::iswpunct(static_cast<std::wint_t>(unit)) != 0;
+}
+
+bool GString::is_space(WideChar unit) noexcept
+{
+    return std::iswspace(static_cast<std::wint_t>(unit)) != 0;
+}
+
+bool GString::is_digit(WideChar unit) noexcept
+{
+    return unit >= '0' && unit <= '9';
+}
+
+std::int32_t GString::to_long(bool* ok) const noexcept
+{
+    // wcstol itself is no help: its long has 64 bits on Linux, and no char16_t there.
+    std::size_t position = 0;
+    while (position < size() && is_space(text_[position]))
+        ++position;
+    const bool negative = position < size() && text_[position] == '-';
+    if (position < size() && (negative || text_[position] == '+'))
+        ++position;
+
+    constexpr std::int64_t lowest = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
+    const std::size_t firstDigit = position;
+    std::int64_t value = 0;
+    for (; position < size() && is_digit(text_[position]); ++position) {
+        const std::int64_t digit = text_[position] - '0';
+        value = std::clamp(value * 10 + (negative ? -digit : digit), lowest, highest);
+    }
+    if (ok != nullptr)
+        *ok = position > firstDigit ? position == size() : empty();
+    return static_cast<std::int32_t>(value);
+}
+
+GString GString::from_bool(bool value)
+{
+    const std::u16string_view text = value ? trueText : falseText;
+    return Text(text.begin(), text.end());
+}
+
+bool GString::to_bool(bool* ok) const noexcept
+{
+    const bool isTrue = equals(text_, trueText);
+    if (ok != nullptr)
+        *ok = isTrue || equals(text_, falseText);
+    return isTrue;
+}
+
+GString GString::from_number(std::int32_t value, std::string_view format)
+{
+    return fromArgument(value, format);
+}
+
+GString GString::from_number(std::uint32_t value, std::string_view format)
+{
+    return fromArgument(value, format);
+}
+
+GString GString::from_number(std::int64_t value, std::string_view format)
+{
+    return fromArgument(value, format);
+}
+
+GString GString::from_number(std::uint64_t value, std::string_view format)
+{
+    return fromArgument(value, format);
+}
+
+GString GString::from_number(double value, std::string_view format)
+{
+    return fromArgument(value, format);
+}
+
+GString GString::formatted(View format, std::span<const FormatArgument> arguments)
+{
+    std::array<WideChar, 512> small;
+    const std::ptrdiff_t length = formatInto<WideChar>(small, format, arguments);
+    if (length >= 0)
+        return View(small.data(), static_cast<std::size_t>(length));
+
+    constexpr std::size_t largeSize = 65536;
+    Text large(largeSize, 0);
+    const std::ptrdiff_t largeLength =
+        formatInto<WideChar>(std::span(large).first(largeSize - 1), format, arguments);
+    if (largeLength >= 0)
+        large.resize(static_cast<std::size_t>(largeLength));
+    return large;
+}
+
+char16_t GString::default_char() noexcept
+{
+    return Platform::ansiDefaultCharacter();
+}
+
+} // namespace Pelmora::Native

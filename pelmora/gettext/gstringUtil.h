@@ -1,0 +1,173 @@
+#pragma once
+
+#include "pelmora/gettext/FormatArgument.h"
+#include "pelmora/platform/export.h"
+#include "pelmora/platform/wideChar.h"
+
+#include <array>
+#include <compare>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+namespace Pelmora::Native
+{
+
+/// The Windows code pages that the library names itself; every operation takes any number.
+inline constexpr unsigned int ansiCodePage = 0; ///< the system's ANSI code page; 1252 on Linux
+inline constexpr unsigned int utf8CodePage = 65001;
+
+/// What a text literal of UTF-16 units is made of: u"..." everywhere, L"..." on Windows too.
+template <class T>
+concept Utf16Unit = std::same_as<T, WideChar> || std::same_as<T, char16_t>;
+
+/// The text of everything that is shown to a user: UTF-16 with value semantics. Each unit counts as
+/// one character, a supplementary character as the two units of its surrogate pair; nothing is ever
+/// normalised.
+///
+/// Narrow text always comes with a Windows code page. Conversions never fail: characters without a
+/// counterpart become the code page's best fit or its default character, and an unknown code page
+/// gives an empty text. They end at the first NUL, except those from and to UTF-8 by name.
+/// Conversions may run in several threads at once.
+class PELMORA_API GString
+{
+public:
+    using Text = std::basic_string<WideChar>;
+    using View = std::basic_string_view<WideChar>;
+    using const_iterator = Text::const_iterator;
+
+    GString() noexcept = default;
+    GString(const Text& text) : text_(text) {}                // NOLINT(google-explicit-constructor)
+    GString(Text&& text) noexcept : text_(std::move(text)) {} // NOLINT(google-explicit-constructor)
+    GString(View text) : text_(text) {}                       // NOLINT(google-explicit-constructor)
+    template <Utf16Unit Unit>
+    GString(const Unit* text) // NOLINT(google-explicit-constructor): a literal is a text
+        : GString(std::basic_string_view<Unit>(text))
+    {
+    }
+    template <Utf16Unit Unit>
+    requires(!std::same_as<Unit, WideChar>) explicit GString(std::basic_string_view<Unit> text)
+        : text_(text.begin(), text.end())
+    {
+    }
+
+    /// From narrow text in a code page.
+    explicit GString(std::string_view narrow, unsigned int codePage = ansiCodePage);
+
+    /// From UTF-8 as the library's own codec reads it: one unit a character, so that surrogates are
+    /// accepted and a sequence of four bytes is an error. Throws the C string (`const char*`)
+    /// "UTF8 error: source too large" for anything that is not well-formed.
+    static GString from_utf8(std::string_view utf8);
+
+    /// The text in a code page, up to its first NUL.
+    std::string to_narrow(unsigned int codePage = ansiCodePage) const;
+
+    /// UTF-8 of each unit on its own, so that a surrogate pair becomes six bytes, which `from_utf8`
+    /// reads back. The counterpart of its error, the C string "UTF8 error: result too large",
+    /// cannot come up: every 16-bit unit has an encoding.
+    std::string to_utf8() const;
+
+    /// NUL-terminated UTF-16, valid while this object lives and is not changed.
+    const WideChar* to_w_str() const noexcept { return text_.c_str(); }
+
+    /// A NUL-terminated narrow copy for a C interface, in the ANSI code page or in a given one.
+    /// The pointers come from two rings of 16 buffers, one for each form: each stays valid for 15
+    /// further calls of the same form by any thread, and also while the process ends.
+    const char* to_temp_c_str() const;
+    const char* to_temp_c_str(unsigned int codePage) const;
+
+    /// Each unit mapped by the C library's `towlower` and `towupper` in the current C locale.
+    GString to_lower() const;
+    GString to_upper() const;
+
+    /// By `iswalpha`, `iswpunct` and `iswspace` in the current C locale.
+    static bool is_alpha(WideChar unit) noexcept;
+    static bool is_punct(WideChar unit) noexcept;
+    static bool is_space(WideChar unit) noexcept;
+    /// Exactly '0' to '9', in every locale.
+    static bool is_digit(WideChar unit) noexcept;
+
+    /// The decimal number at the start, as `wcstol` reads it with a `long` of 32 bits: white space,
+    /// a sign, digits; clamped to the range; 0 where there is no number. `ok`, when given, says
+    /// whether the text was consumed to its end, which the empty text is.
+    std::int32_t to_long(bool* ok = nullptr) const noexcept;
+
+    /// "true" or "false".
+    static GString from_bool(bool value);
+
+    /// True for exactly "true"; `ok`, when given, says whether the text was "true" or "false".
+    bool to_bool(bool* ok = nullptr) const noexcept;
+
+    /// The number by a printf-style narrow format with one conversion for it, cut after 50 bytes.
+    /// Length modifiers are allowed and not needed: from_number(milliseconds, "%d").
+    static GString from_number(std::int32_t value, std::string_view format);
+    static GString from_number(std::uint32_t value, std::string_view format);
+    static GString from_number(std::int64_t value, std::string_view format);
+    static GString from_number(std::uint64_t value, std::string_view format);
+    static GString from_number(double value, std::string_view format);
+
+    /// The arguments by a printf-style format: the flags, width, precision (also as *) and
+    /// conversions d i u o x X c s S p f F e E g G a A of C. %s takes narrow text of the ANSI code
+    /// page and wide text alike. A conversion that its argument does not fit, or that has none, is
+    /// written as it stands, so that a mistake in a translated format is seen and harms nothing.
+    /// More than 65,535 units are cut there, and one NUL unit follows.
+    template <class... Arguments>
+    static GString format(const GString& format, const Arguments&... arguments)
+    {
+        const std::array<FormatArgument, sizeof...(arguments)> list = {argumentOf(arguments)...};
+        return formatted(format.text_, list);
+    }
+
+    /// The character that stands for unencodable ones in the ANSI code page, as a 16-bit value.
+    static char16_t default_char() noexcept;
+
+    const Text& text() const noexcept { return text_; }
+    operator View() const noexcept { return text_; } // NOLINT(google-explicit-constructor)
+    std::size_t size() const noexcept { return text_.size(); }
+    bool empty() const noexcept { return text_.empty(); }
+    const_iterator begin() const noexcept { return text_.begin(); }
+    const_iterator end() const noexcept { return text_.end(); }
+    /// Requires: index < size().
+    WideChar operator[](std::size_t index) const noexcept { return text_[index]; }
+
+    GString& operator+=(const GString& other)
+    {
+        text_ += other.text_;
+        return *this;
+    }
+    friend GString operator+(GString a, const GString& b) { return a += b; }
+
+    /// Unit by unit, case-sensitive.
+    friend bool operator==(const GString&, const GString&) noexcept = default;
+    friend std::strong_ordering operator<=>(const GString& a, const GString& b) noexcept
+    {
+        return a.text_.compare(b.text_) <=> 0;
+    }
+
+private:
+    template <class T>
+    static FormatArgument argumentOf(const T& value)
+    {
+        if constexpr (std::is_same_v<T, GString>)
+            return View(value);
+        else
+            return value;
+    }
+    static GString formatted(View format, std::span<const FormatArgument> arguments);
+
+    Text text_;
+};
+
+} // namespace Pelmora::Native
+
+namespace Pelmora
+{
+
+using Native::GString;
+
+} // namespace Pelmora

@@ -1,0 +1,298 @@
+#include "pelmora/gettext/printfFormat.h"
+
+#include "pelmora/gettext/gstringUtil.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <optional>
+#include <string>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+/// Wider fields than any buffer of the callers are cut by it anyway.
+constexpr int largestField = 65536;
+
+constexpr std::string_view conversionLetters = "diuoxXcCsSpfFeEgGaA";
+
+/// One conversion of a format: the text from its % to its letter, taken apart.
+struct Conversion {
+    std::string flags;
+    std::optional<int> width;
+    std::optional<int> precision;
+    int lengthBits = 0;  ///< 8 or 16 when the modifier hh or h cuts the number, otherwise 0
+    char letter = 0;     ///< 0 where the format breaks off
+    std::size_t end = 0; ///< the position behind the letter
+};
+
+/// Walks over the arguments; each is used at most once.
+class ArgumentQueue
+{
+public:
+    explicit ArgumentQueue(std::span<const FormatArgument> arguments) : left_(arguments) {}
+
+    const FormatArgument* next()
+    {
+        if (left_.empty())
+            return nullptr;
+        const FormatArgument* first = &left_.front();
+        left_ = left_.subspan(1);
+        return first;
+    }
+
+private:
+    std::span<const FormatArgument> left_;
+};
+
+template <class Char>
+class Parser
+{
+public:
+    Parser(std::basic_string_view<Char> format, std::size_t afterPercent, ArgumentQueue& arguments)
+        : format_(format), position_(afterPercent), arguments_(arguments)
+    {
+    }
+
+    Conversion parse()
+    {
+        Conversion result;
+        while (const char flag = takeAnyOf("-+ #0"))
+            if (result.flags.find(flag) == std::string::npos)
+                result.flags += flag;
+        result.width = number();
+        if (result.width && *result.width < 0) {
+            result.flags += '-';
+            result.width = -*result.width;
+        }
+        if (takeAnyOf(".") != 0) {
+            result.precision = number().value_or(0);
+            if (*result.precision < 0)
+                result.precision.reset();
+        }
+        skipLengthModifiers(result);
+        if (position_ < format_.size()) {
+            const auto unit = format_[position_++];
+            result.letter = unit > 0 && unit < 0x80 ? static_cast<char>(unit) : '?';
+        }
+        result.end = position_;
+        return result;
+    }
+
+private:
+    char takeAnyOf(std::string_view characters)
+    {
+        for (const char character : characters) {
+            if (position_ < format_.size() && format_[position_] == static_cast<Char>(character)) {
+                ++position_;
+                return character;
+            }
+        }
+        return 0;
+    }
+
+    /// Digits or *, limited to what can matter.
+    std::optional<int> number()
+    {
+        if (takeAnyOf("*") != 0) {
+            const FormatArgument* argument = arguments_.next();
+            const auto* integer = argument == nullptr
+                                      ? nullptr
+                                      : std::get_if<FormatArgument::Integer>(&argument->value());
+            const auto value =
+                integer == nullptr ? 0 : static_cast<std::int32_t>(integer->bits & 0xFFFFFFFFU);
+            return std::clamp(value, -largestField, largestField);
+        }
+        std::optional<int> value;
+        while (const char digit = takeAnyOf("0123456789"))
+            value = std::min(value.value_or(0) * 10 + (digit - '0'), largestField);
+        return value;
+    }
+
+    /// The arguments know their sizes: only h and hh, which cut numbers, say something new.
+    void skipLengthModifiers(Conversion& result)
+    {
+        while (const char modifier = takeAnyOf("hlLqjztwI"))
+            if (modifier == 'h')
+                result.lengthBits = result.lengthBits == 16 ? 8 : 16;
+            else if (modifier == 'I')
+                while (takeAnyOf("3264") != 0) {
+                }
+    }
+
+    std::basic_string_view<Char> format_;
+    std::size_t position_;
+    ArgumentQueue& arguments_;
+};
+
+/// The conversion as snprintf takes it, with the length modifier that fits what it is given.
+std::string narrowFormat(const Conversion& conversion, std::string_view lengthModifier)
+{
+    std::string result = "%" + conversion.flags;
+    if (conversion.width)
+        result += std::to_string(*conversion.width);
+    if (conversion.precision)
+        result += "." + std::to_string(*conversion.precision);
+    result += lengthModifier;
+    return result + conversion.letter;
+}
+
+template <class Value>
+std::string printed(const std::string& format, Value value)
+{
+    const int length = std::snprintf(nullptr, 0, format.c_str(), value);
+    if (length <= 0)
+        return {};
+    std::string text(static_cast<std::size_t>(length) + 1, '\0');
+    std::snprintf(text.data(), text.size(), format.c_str(), value);
+    text.pop_back();
+    return text;
+}
+
+std::string printedInteger(const Conversion& conversion, const FormatArgument::Integer& integer)
+{
+    const bool isSigned = conversion.letter == 'd' || conversion.letter == 'i';
+    int bits = conversion.lengthBits;
+    if (bits == 0)
+        bits = integer.is64 ? 64 : 32;
+    const int unused = 64 - bits;
+    const std::uint64_t shifted = integer.bits << unused;
+    const std::string format = narrowFormat(conversion, "ll");
+    if (isSigned)
+        return printed(format,
+                       static_cast<long long>(static_cast<std::int64_t>(shifted) >> unused));
+    return printed(format, static_cast<unsigned long long>(shifted >> unused));
+}
+
+/// As Windows writes an address: all its hexadecimal digits.
+std::string printedAddress(const void* pointer)
+{
+    return printed("%016llX",
+                   static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(pointer)));
+}
+
+template <class Char>
+std::basic_string<Char> converted(std::string_view narrow)
+{
+    if constexpr (std::is_same_v<Char, char>)
+        return std::string(narrow);
+    else
+        return GString(narrow).text();
+}
+
+template <class Char>
+std::basic_string<Char> converted(const FormatArgument::WideText& wide)
+{
+    if constexpr (std::is_same_v<Char, char>)
+        return GString(wide).to_narrow();
+    else
+        return wide;
+}
+
+template <class Char>
+std::basic_string<Char> padded(const Conversion& conversion, std::basic_string<Char> text)
+{
+    const auto width = static_cast<std::size_t>(conversion.width.value_or(0));
+    if (text.size() >= width)
+        return text;
+    const bool left = conversion.flags.find('-') != std::string::npos;
+    text.insert(left ? text.size() : 0, width - text.size(), static_cast<Char>(' '));
+    return text;
+}
+
+/// The argument as the conversion asks, or nothing when the two do not fit.
+template <class Char>
+std::optional<std::basic_string<Char>> convertedArgument(const Conversion& conversion,
+                                                         const FormatArgument& argument)
+{
+    const FormatArgument::Value& value = argument.value();
+    const auto isOneOf = [&conversion](std::string_view letters) {
+        return letters.find(conversion.letter) != std::string_view::npos;
+    };
+    if (const auto* integer = std::get_if<FormatArgument::Integer>(&value)) {
+        if (isOneOf("diuoxX"))
+            return converted<Char>(std::string_view(printedInteger(conversion, *integer)));
+        if (isOneOf("cC"))
+            return padded(conversion, std::basic_string<Char>(1, static_cast<Char>(integer->bits)));
+    }
+    if (const auto* number = std::get_if<double>(&value); number != nullptr && isOneOf("fFeEgGaA"))
+        return converted<Char>(std::string_view(printed(narrowFormat(conversion, ""), *number)));
+    if (const auto* pointer = std::get_if<const void*>(&value); pointer != nullptr && isOneOf("p"))
+        return padded(conversion, converted<Char>(std::string_view(printedAddress(*pointer))));
+    if (isOneOf("sS")) {
+        std::optional<std::basic_string<Char>> text;
+        if (const auto* narrow = std::get_if<std::string_view>(&value))
+            text = converted<Char>(*narrow);
+        if (const auto* wide = std::get_if<FormatArgument::WideText>(&value))
+            text = converted<Char>(*wide);
+        if (text && conversion.precision)
+            text->resize(std::min(text->size(), static_cast<std::size_t>(*conversion.precision)));
+        if (text)
+            return padded(conversion, *std::move(text));
+    }
+    return std::nullopt;
+}
+
+/// Takes what fits and notices when something did not.
+template <class Char>
+class BoundedOutput
+{
+public:
+    explicit BoundedOutput(std::span<Char> buffer) : buffer_(buffer) {}
+
+    void append(std::basic_string_view<Char> text)
+    {
+        const std::size_t count = std::min(text.size(), buffer_.size() - used_);
+        std::copy_n(text.data(), count, buffer_.data() + used_);
+        used_ += count;
+        full_ = full_ || count < text.size();
+    }
+
+    bool full() const { return full_; }
+    std::size_t used() const { return used_; }
+
+private:
+    std::span<Char> buffer_;
+    std::size_t used_ = 0;
+    bool full_ = false;
+};
+
+} // namespace
+
+template <class Char>
+std::ptrdiff_t formatInto(std::span<Char> buffer, std::basic_string_view<Char> format,
+                          std::span<const FormatArgument> arguments)
+{
+    BoundedOutput<Char> output(buffer);
+    ArgumentQueue queue(arguments);
+    std::size_t position = 0;
+    while (position < format.size() && !output.full()) {
+        const std::size_t percent =
+            std::min(format.find(static_cast<Char>('%'), position), format.size());
+        output.append(format.substr(position, percent - position));
+        if (percent == format.size())
+            break;
+        const Conversion conversion = Parser<Char>(format, percent + 1, queue).parse();
+        position = conversion.end;
+        const auto whole = format.substr(percent, position - percent);
+        if (conversion.letter == '%') {
+            output.append(whole.substr(whole.size() - 1));
+            continue;
+        }
+        const bool isKnown = conversionLetters.find(conversion.letter) != std::string_view::npos;
+        const FormatArgument* argument = isKnown ? queue.next() : nullptr;
+        const auto text =
+            argument == nullptr ? std::nullopt : convertedArgument<Char>(conversion, *argument);
+        output.append(text ? std::basic_string_view<Char>(*text) : whole);
+    }
+    return output.full() ? -1 : static_cast<std::ptrdiff_t>(output.used());
+}
+
+template std::ptrdiff_t formatInto<char>(std::span<char>, std::string_view,
+                                         std::span<const FormatArgument>);
+template std::ptrdiff_t formatInto<WideChar>(std::span<WideChar>, std::basic_string_view<WideChar>,
+                                             std::span<const FormatArgument>);
+
+} // namespace Pelmora::Native

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <type_traits>
+
+namespace Pelmora::Native
+{
+
+/// One UTF-16 code unit: the system's wide character where that has 16 bits (Windows), otherwise
+/// `char16_t`.
+using WideChar = std::conditional_t<sizeof(wchar_t) == sizeof(char16_t), wchar_t, char16_t>;
+
+} // namespace Pelmora::Native

@@ -1,0 +1,76 @@
+#include "pelmora/gettext/gstringUtil.h"
+#include "tests/printing.h"
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+TEST(CodePages, TextsOfBothSidesMatch)
+{
+    const struct {
+        unsigned int codePage;
+        std::string narrow;
+        GString text;
+    } rows[] = {
+        {0, "", u""},
+        {99999, "", u""},
+        {0, "b\xE9zier \x80\x96", u"b\u00E9zier \u20AC\u2013"},
+        {1252, "\x81\x8D", u"\u0081\u008D"},
+        {1250, "\xB9\xE8", u"\u0105\u010D"},
+        {437, "\x81\xE1", u"\u00FC\u00DF"},
+        {28591, "\x80\xE9", u"\u0080\u00E9"},
+        {932, "\x93\x8C\x8B\x9E\\~", u"\u6771\u4EAC\\~"},
+        {949, "\xBC\xAD\xBF\xEF", u"\uC11C\uC6B8"},
+        {936, "\xB1\xB1\xBE\xA9", u"\u5317\u4EAC"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(GString(row.narrow, row.codePage), row.text) << row.codePage;
+        EXPECT_EQ(row.text.to_narrow(row.codePage), row.narrow) << row.codePage;
+    }
+}
+
+TEST(CodePages, WhatHasNoCounterpartIsReplaced)
+{
+    const struct {
+        unsigned int codePage;
+        GString text;
+        std::string narrow;
+    } toNarrow[] = {
+        {0, u"\u0101\u0142\uFF21\u2032\u2212\u0111", "alA'-d"}, // best fits
+        {0, u"\u6771\u2603!", "?\?!"},
+        {0, u"\xD83D\xDE00x", "??x"},
+        {932, u"\u6771\uC11C", "\x93\x8C?"},
+        {99999, u"\u00E9", ""},
+    };
+    for (const auto& row : toNarrow)
+        EXPECT_EQ(row.text.to_narrow(row.codePage), row.narrow) << testing::PrintToString(row.text);
+    const struct {
+        unsigned int codePage;
+        std::string narrow;
+        GString text;
+    } toWide[] = {
+        {65001, "\xF0\x9F\x98\x80", u"\xD83D\xDE00"},
+        {65001, "a\xF0\x9F\x98z\xE2\x82", u"a\uFFFDz\uFFFD"},
+        {65001, "\xC0\x80\xFF\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
+        {932, "\x93\x8C\x81", u"\u6771\u30FB"},
+        {932, "\x81\xFF!", u"\u30FB!"},
+        {936, "\xB1\xB1\x81 ", u"\u5317?"},
+        {99999, "\xE9", u""},
+    };
+    for (const auto& row : toWide)
+        EXPECT_EQ(GString(row.narrow, row.codePage), row.text) << row.narrow;
+}
+
+TEST(CodePages, ConversionsEndAtTheFirstNul)
+{
+    EXPECT_EQ(GString(std::string_view("ab\0cd", 5)), u"ab");
+    EXPECT_EQ(GString(std::string_view("\xE9\0cd", 4), 932), GString("\xE9", 932));
+    EXPECT_EQ(GString(GString::Text{'a', 0, 'b'}).to_narrow(), "a");
+    EXPECT_EQ(GString(GString::Text{0xE9, 0, 'b'}).to_narrow(), "\xE9");
+}
+
+} // namespace
+} // namespace Pelmora::Native

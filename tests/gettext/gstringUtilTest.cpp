@@ -1,0 +1,98 @@
+#include "pelmora/gettext/gstringUtil.h"
+#include "tests/printing.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+TEST(GString, CaseAndClassesOfUnits)
+{
+    EXPECT_EQ(GString(u"Dose 5 MG").to_lower(), u"dose 5 mg");
+    EXPECT_EQ(GString(u"Dose 5 mg").to_upper(), u"DOSE 5 MG");
+    EXPECT_TRUE(GString::is_alpha('x') && GString::is_punct(';') && GString::is_space('\t'));
+    EXPECT_FALSE(GString::is_alpha('1') || GString::is_punct('x') || GString::is_space('x'));
+    EXPECT_TRUE(GString::is_digit('0') && GString::is_digit('9'));
+    EXPECT_FALSE(GString::is_digit('0' - 1) || GString::is_digit('9' + 1) ||
+                 GString::is_digit(0x0661) || GString::is_digit(0x00B2));
+}
+
+TEST(GString, ToLong)
+{
+    const struct {
+        GString text;
+        std::int32_t value;
+        bool ok;
+    } rows[] = {
+        {u"42", 42, true},
+        {u"42x", 42, false},
+        {u"", 0, true},
+        {u" \t-7", -7, true},
+        {u"+7", 7, true},
+        {u"7 ", 7, false},
+        {u"x", 0, false},
+        {u"  ", 0, false},
+        {u"-", 0, false},
+        {u"--1", 0, false},
+        {u"0x10", 0, false},
+        {u"2147483647", 2147483647, true},
+        {u"2147483648", 2147483647, true},
+        {u"-2147483648", -2147483647 - 1, true},
+        {u"-99999999999999999999", -2147483647 - 1, true},
+        {GString::Text{'4', 0, '2'}, 4, false},
+    };
+    for (const auto& row : rows) {
+        bool ok = !row.ok;
+        EXPECT_EQ(row.text.to_long(&ok), row.value) << testing::PrintToString(row.text);
+        EXPECT_EQ(ok, row.ok) << testing::PrintToString(row.text);
+        EXPECT_EQ(row.text.to_long(), row.value);
+    }
+}
+
+TEST(GString, Booleans)
+{
+    bool ok = false;
+    EXPECT_TRUE(GString::from_bool(true).to_bool(&ok) && ok);
+    EXPECT_TRUE(!GString::from_bool(false).to_bool(&ok) && ok);
+    for (const GString text : {u"True", u"true ", u"tru", u"", u"1"})
+        EXPECT_TRUE(!text.to_bool(&ok) && !ok) << testing::PrintToString(text);
+    EXPECT_EQ(GString::from_bool(true) + GString::from_bool(false), u"truefalse");
+}
+
+TEST(GString, TemporaryBuffersLastForFifteenMoreCalls)
+{
+    const auto text = [](int i) { return GString::from_number(i, "caf\xE9 %d"); };
+    std::vector<const char*> ansi;
+    std::vector<const char*> other;
+    for (int i = 0; i < 16; ++i) {
+        ansi.push_back(text(i).to_temp_c_str());
+        other.push_back(text(i).to_temp_c_str(65001));
+    }
+    for (int i = 0; i < 16; ++i) {
+        EXPECT_EQ(ansi[static_cast<std::size_t>(i)], "caf\xE9 " + std::to_string(i));
+        EXPECT_EQ(other[static_cast<std::size_t>(i)], "caf\xC3\xA9 " + std::to_string(i));
+    }
+    // The 17th call takes the first one's slot, whose buffer is long enough already.
+    EXPECT_STREQ(text(16).to_temp_c_str(), "caf\xE9 16");
+    EXPECT_STREQ(ansi[1], "caf\xE9 1");
+    EXPECT_STREQ(other[0], "caf\xC3\xA9 0");
+    EXPECT_EQ(std::set<const char*>(ansi.begin(), ansi.end()).size(), 16U);
+}
+
+/// Uses the buffers while the process ends, when the statics of the library may have gone.
+struct LateUser {
+    ~LateUser()
+    {
+        if (std::string(GString(u"late").to_temp_c_str()) != "late")
+            std::abort();
+    }
+} lateUser;
+
+} // namespace
+} // namespace Pelmora::Native
