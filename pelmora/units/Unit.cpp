@@ -1,0 +1,216 @@
+#include "pelmora/units/Unit.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+std::int32_t wrappedSum(std::int32_t a, std::int32_t b)
+{
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+}
+
+std::int32_t wrappedNegation(std::int32_t a)
+{
+    return static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(a));
+}
+
+/// The ISO forms of the elements as an ordered set: equal ones collapse into one.
+ElementList isoSet(const ElementList& elements)
+{
+    ElementList set;
+    for (const UnitElement& element : elements)
+        set.push_back(element.toIso().element);
+    std::sort(set.begin(), set.end());
+    set.truncate(static_cast<std::size_t>(std::unique(set.begin(), set.end()) - set.begin()));
+    return set;
+}
+
+ElementList isoElements(const ElementList& elements)
+{
+    const ElementList set = isoSet(elements);
+    ElementList result;
+    for (std::size_t i = 0; i < set.size();) {
+        UnitElement sum = set[i];
+        for (++i; i < set.size() && set[i].unitType == sum.unitType; ++i)
+            sum.exponent = wrappedSum(sum.exponent, set[i].exponent);
+        if (sum.exponent != 0)
+            result.push_back(sum);
+    }
+    return result;
+}
+
+bool isoHas(const Unit& unit, UnitTypeEnum kind, std::int32_t exponent)
+{
+    return unit.getAsIsoUnit().unit.hasUnitType(kind, exponent);
+}
+
+} // namespace
+
+Unit::Unit(const UnitElement& element) : elements{element} {}
+
+Unit Unit::mul(const Unit& other) const
+{
+    Unit product = *this;
+    for (const UnitElement& element : other.elements)
+        product.elements.push_back(element);
+    return product;
+}
+
+Unit Unit::inverted() const
+{
+    Unit result = *this;
+    for (UnitElement& element : result.elements)
+        element.exponent = wrappedNegation(element.exponent);
+    return result;
+}
+
+ScaledUnit Unit::getReduced() const
+{
+    ScaledUnit result = {1, {}};
+    ElementList work = elements;
+    constexpr UnitElement consumed(UnitTypeEnum::UNIT_NUMBER_OF, UnitPrefix::NONE, 0);
+
+    for (std::size_t i = 0; i + 1 < work.size(); ++i) {
+        const UnitElement element = work[i];
+        if (element.exponent == 0)
+            continue;
+        bool merged = false;
+        std::int32_t total = element.exponent;
+        for (std::size_t j = i + 1; j < work.size(); ++j) {
+            if (!element.sameDimension(work[j]))
+                continue;
+            merged = true;
+            result.factor *= work[j].toIso().factor;
+            total = wrappedSum(total, work[j].exponent);
+            work[j] = consumed;
+        }
+        if (!merged) {
+            result.unit.elements.push_back(element);
+            continue;
+        }
+        const ScaledElement iso = element.toIso();
+        result.factor *= iso.factor;
+        if (total != 0)
+            result.unit.elements.push_back({iso.element.unitType, UnitPrefix::NONE, total});
+    }
+    if (!work.empty() && work[work.size() - 1].exponent != 0)
+        result.unit.elements.push_back(work[work.size() - 1]);
+    return result;
+}
+
+ScaledUnit Unit::getAsIsoUnit() const
+{
+    ScaledUnit result = {isoFactor(), {}};
+    result.unit.elements = isoElements(elements);
+    return result;
+}
+
+double Unit::isoFactor() const noexcept
+{
+    double factor = 1;
+    for (const UnitElement& element : elements)
+        factor *= element.toIso().factor;
+    return factor;
+}
+
+bool Unit::compatibleWith(const Unit& other) const
+{
+    return isoElements(elements) == isoElements(other.elements);
+}
+
+bool Unit::isEquivalent(const Unit& other) const
+{
+    ScaledUnit a = getReduced();
+    ScaledUnit b = other.getReduced();
+    if (a.factor != b.factor)
+        return false;
+    std::sort(a.unit.elements.begin(), a.unit.elements.end());
+    std::sort(b.unit.elements.begin(), b.unit.elements.end());
+    return a.unit == b.unit;
+}
+
+bool Unit::isValid() const noexcept
+{
+    return std::none_of(elements.begin(), elements.end(), [](const UnitElement& element) {
+        return element.unitType == UnitTypeEnum::UNIT_NUMBER_OF || element.exponent == 0;
+    });
+}
+
+bool Unit::hasUnitType(UnitTypeEnum kind, std::int32_t exponent) const noexcept
+{
+    return std::any_of(elements.begin(), elements.end(), [=](const UnitElement& element) {
+        return element.unitType == kind && element.exponent == exponent;
+    });
+}
+
+void Unit::removeUnitType(UnitTypeEnum kind)
+{
+    const auto kept =
+        std::remove_if(elements.begin(), elements.end(),
+                       [=](const UnitElement& element) { return element.unitType == kind; });
+    elements.truncate(static_cast<std::size_t>(kept - elements.begin()));
+}
+
+unsigned int Unit::getRateDivisor() const noexcept
+{
+    struct TimeUnit {
+        UnitTypeEnum kind;
+        unsigned int seconds;
+    };
+    constexpr std::array<TimeUnit, 3> timeUnits = {
+        {{UnitTypeEnum::UNIT_S, 1}, {UnitTypeEnum::UNIT_MIN, 60}, {UnitTypeEnum::UNIT_HR, 3600}}};
+    for (const TimeUnit& time : timeUnits)
+        if (hasUnitType(time.kind, -1))
+            return time.seconds;
+    return 0;
+}
+
+bool Unit::unitIsRate() const
+{
+    return isoHas(*this, UnitTypeEnum::UNIT_S, -1);
+}
+
+bool Unit::unitIsVolume() const
+{
+    return isoHas(*this, UnitTypeEnum::UNIT_L, 1);
+}
+
+bool Unit::unitIsMol() const
+{
+    return isoHas(*this, UnitTypeEnum::UNIT_MOL, 1);
+}
+
+bool Unit::unitIsPrPt() const
+{
+    return isoHas(*this, UnitTypeEnum::UNIT_G_PT, -1);
+}
+
+bool Unit::unitIsWeight() const
+{
+    return isoHas(*this, UnitTypeEnum::UNIT_G, 1);
+}
+
+bool Unit::unitIsUnit() const
+{
+    return isoHas(*this, UnitTypeEnum::UNIT_U, 1);
+}
+
+ScaledUnit Unit::shiftPrefix(int steps) const
+{
+    ScaledUnit result = {1, *this};
+    for (UnitElement& element : result.unit.elements) {
+        if (element.exponent > 0) {
+            const ScaledElement shifted = element.shiftPrefix(steps);
+            result.factor = shifted.factor;
+            element = shifted.element;
+            break;
+        }
+    }
+    return result;
+}
+
+} // namespace Pelmora::Native

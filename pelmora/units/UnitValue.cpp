@@ -1,0 +1,90 @@
+#include "pelmora/units/UnitValue.h"
+
+#include <array>
+
+namespace Pelmora::Native
+{
+
+UnitValue UnitValue::mul(const UnitValue& other) const
+{
+    if (!other.unit.isValid())
+        return *this;
+    if (!unit.isValid())
+        return other;
+    return {value * other.value, unit.mul(other.unit)};
+}
+
+UnitValue UnitValue::inverted() const
+{
+    if (value == 0.0)
+        return {0.0, Unit()};
+    if (!unit.isValid())
+        return *this;
+    return {1 / value, unit.inverted()};
+}
+
+UnitValue UnitValue::div(const UnitValue& other) const
+{
+    return mul(other.inverted());
+}
+
+UnitValue UnitValue::getReduced() const
+{
+    const ScaledUnit reduced = unit.getReduced();
+    return {value * reduced.factor, reduced.unit};
+}
+
+double UnitValue::getConvertedValue(const Unit& target) const noexcept
+{
+    return value * unit.isoFactor() / target.isoFactor();
+}
+
+void UnitValue::convertTo(const Unit& target)
+{
+    value = getConvertedValue(target);
+    unit = target;
+}
+
+UnitValue UnitValue::toNormalized(int maxMagnitude) const
+{
+    constexpr int smallestMagnitude = -1;
+    UnitValue result = *this;
+    int magnitude = decimalMagnitude(value);
+
+    const auto shift = [&](int steps) {
+        const ScaledUnit shifted = result.unit.shiftPrefix(steps);
+        result.unit = shifted.unit;
+        if (shifted.factor == 1.0)
+            return false;
+        result.value *= shifted.factor;
+        magnitude = decimalMagnitude(result.value);
+        return true;
+    };
+    while (magnitude < smallestMagnitude && shift(-1)) {
+    }
+    while (magnitude > maxMagnitude && shift(+1)) {
+    }
+    return result;
+}
+
+int decimalMagnitude(double x) noexcept
+{
+    struct Threshold {
+        double least;
+        int magnitude;
+    };
+    constexpr std::array<Threshold, 22> thresholds = {{
+        {1e10, 11}, {1e9, 10},  {1e8, 9},     {1e7, 8},     {1e6, 7},   {1e5, 6},
+        {1e4, 5},   {1000, 4},  {100, 3},     {10, 2},      {1, 1},     {0.1, -1},
+        {0.01, -2}, {1e-3, -3}, {1e-4, -4},   {1e-5, -5},   {1e-6, -6}, {1e-7, -7},
+        {1e-8, -8}, {1e-9, -9}, {1e-10, -10}, {1e-11, -11},
+    }};
+    if (x == 0)
+        return 0;
+    for (const Threshold& row : thresholds)
+        if (x >= row.least)
+            return row.magnitude;
+    return -12;
+}
+
+} // namespace Pelmora::Native

@@ -1,0 +1,164 @@
+#include "pelmora/units/isoFactor.h"
+
+#include "pelmora/units/unitTables.h"
+
+#include <bit>
+#include <limits>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+// The power is taken in pairs of doubles (T. J. Dekker, "A floating-point technique for extending
+// the available precision", 1971), some 106 significant bits, and rounded once at the end.
+
+/// high + low, where low is what high lost by rounding.
+struct DoublePair {
+    double high;
+    double low;
+};
+
+/// (high + low) x 2^exponent with high in [1, 2), so that no intermediate result leaves the range.
+struct Extended {
+    double high;
+    double low;
+    std::int64_t exponent;
+};
+
+constexpr std::int64_t largestExponent = std::numeric_limits<double>::max_exponent - 1;
+constexpr std::int64_t smallestNormalExponent = std::numeric_limits<double>::min_exponent - 1;
+constexpr std::int64_t smallestExponent = smallestNormalExponent - 52;
+
+/// 2^exponent. Requires: the result is a normal number.
+constexpr double powerOfTwo(std::int64_t exponent)
+{
+    return std::bit_cast<double>(static_cast<std::uint64_t>(exponent + largestExponent) << 52);
+}
+
+/// a + b exactly. Requires: |a| >= |b|.
+constexpr DoublePair fastTwoSum(double a, double b)
+{
+    const double sum = a + b;
+    return {sum, b - (sum - a)};
+}
+
+struct Halves {
+    double high;
+    double low;
+};
+
+/// a as the sum of two numbers of at most 26 bits, whose products are exact.
+constexpr Halves split(double a)
+{
+    const double scaled = (0x1p27 + 1) * a;
+    const double high = scaled - (scaled - a);
+    return {high, a - high};
+}
+
+/// a x b exactly.
+constexpr DoublePair twoProduct(double a, double b)
+{
+    const Halves x = split(a);
+    const Halves y = split(b);
+    const double product = a * b;
+    const double error =
+        ((x.high * y.high - product) + x.high * y.low + x.low * y.high) + x.low * y.low;
+    return {product, error};
+}
+
+/// Requires: value.high is a positive normal number.
+constexpr Extended normalised(const DoublePair& value, std::int64_t exponent)
+{
+    const auto biased = static_cast<std::int64_t>(std::bit_cast<std::uint64_t>(value.high) >> 52);
+    const std::int64_t shift = biased - largestExponent;
+    const double scale = powerOfTwo(-shift);
+    return {value.high * scale, value.low * scale, exponent + shift};
+}
+
+constexpr Extended product(const Extended& a, const Extended& b)
+{
+    const DoublePair main = twoProduct(a.high, b.high);
+    const double rest = main.low + (a.high * b.low + a.low * b.high);
+    return normalised(fastTwoSum(main.high, rest), a.exponent + b.exponent);
+}
+
+constexpr Extended reciprocal(const Extended& x)
+{
+    const double estimate = 1 / x.high;
+    const DoublePair check = twoProduct(estimate, x.high);
+    const double remainder = ((1 - check.high) - check.low) - estimate * x.low;
+    return normalised(fastTwoSum(estimate, remainder / x.high), -x.exponent);
+}
+
+/// The nearest double, ties to even, also among the subnormal numbers.
+constexpr double rounded(const Extended& x)
+{
+    if (x.exponent > largestExponent)
+        return std::numeric_limits<double>::infinity();
+    if (x.exponent >= smallestNormalExponent)
+        return x.high * powerOfTwo(x.exponent);
+    if (x.exponent < smallestExponent - 1)
+        return 0;
+    // Subnormal numbers are whole multiples of the smallest one, and their bits are that multiple.
+    const double multiple = x.high * powerOfTwo(x.exponent - smallestExponent);
+    auto whole = static_cast<std::uint64_t>(multiple);
+    const double fraction = multiple - static_cast<double>(whole);
+    const bool aboveHalf = fraction > 0.5 || (fraction == 0.5 && x.low > 0);
+    const bool tie = fraction == 0.5 && x.low == 0;
+    if (aboveHalf || (tie && whole % 2 == 1))
+        ++whole;
+    return std::bit_cast<double>(whole);
+}
+
+constexpr double power(double base, std::int32_t exponent)
+{
+    if (exponent == 0 || base == 1)
+        return 1;
+    if (base == 0)
+        return exponent > 0 ? 0 : std::numeric_limits<double>::infinity();
+    Extended result = {1, 0, 0};
+    Extended square = normalised({base, 0}, 0);
+    const std::int64_t wide = exponent;
+    for (auto left = static_cast<std::uint64_t>(wide < 0 ? -wide : wide);; left /= 2) {
+        if (left % 2 == 1)
+            result = product(result, square);
+        if (left <= 1)
+            break;
+        square = product(square, square);
+    }
+    return rounded(exponent < 0 ? reciprocal(result) : result);
+}
+
+constexpr std::int32_t tableReach = 8;
+
+using PowerRow = std::array<double, 2 * tableReach + 1>;
+using PowerTable = std::array<std::array<PowerRow, kindFactors.size()>, prefixRows.size()>;
+
+constexpr PowerTable makePowerTable()
+{
+    PowerTable table{};
+    for (std::size_t prefix = 0; prefix < prefixRows.size(); ++prefix)
+        for (std::size_t kind = 0; kind < kindFactors.size(); ++kind)
+            for (std::int32_t exponent = -tableReach; exponent <= tableReach; ++exponent)
+                table[prefix][kind][static_cast<std::size_t>(exponent + tableReach)] =
+                    power(prefixRows[prefix].factor * kindFactors[kind], exponent);
+    return table;
+}
+
+constexpr PowerTable powerTable = makePowerTable();
+
+} // namespace
+
+double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept
+{
+    const std::size_t prefixAt = prefixIndex(prefix);
+    if (prefixAt >= prefixRows.size())
+        return power(0, exponent);
+    const auto kindAt = static_cast<std::size_t>(kindRow(kind).factor);
+    if (exponent >= -tableReach && exponent <= tableReach)
+        return powerTable[prefixAt][kindAt][static_cast<std::size_t>(exponent + tableReach)];
+    return power(prefixRows[prefixAt].factor * kindFactors[kindAt], exponent);
+}
+
+} // namespace Pelmora::Native

@@ -1,0 +1,180 @@
+#include "pelmora/units/Unit.h"
+
+#include "pelmora/units/UnitValue.h"
+#include "tests/units/allocations.h"
+#include "tests/units/sampleUnits.h"
+
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+TEST(Unit, ReducedForm)
+{
+    const struct {
+        Unit unit;
+        double factor;
+        Unit reduced;
+    } rows[] = {
+        {unitOf({}), 1, unitOf({})},
+        {unitOf({mg}), 1, unitOf({mg})},
+        {unitOf({{UNIT_G, KILO, 0}}), 1, unitOf({})},
+        {unitOf({{UNIT_G, KILO, 0}, mL}), 1, unitOf({mL})},
+        {unitOf({mg, perKg}), 0.001 * 0.001, unitOf({})},
+        {unitOf({mg, perKgBody}), 1, unitOf({mg, perKgBody})},
+        {unitOf({mL, perMin, s}), 1.0 / 60, unitOf({mL})},
+        {unitOf({perMin, hr}), 3600 * (1.0 / 60), unitOf({})},
+        {unitOf({m, cm}), 0.01, unitOf({{UNIT_M, NONE, 2}})},
+        {unitOf({mg, mL, mg}), 0.001 * 0.001, unitOf({{UNIT_G, NONE, 2}, mL})},
+        // An element of exponent 0 merges like any other, and so does one that was consumed with
+        // an element that stands for nothing.
+        {unitOf({mg, {UNIT_G, KILO, 0}}), 0.001, unitOf({g})},
+        {unitOf({mg, {UNIT_NUMBER_OF, KILO, 1}, mg}), 0.001 * 0.001 * 1000,
+         unitOf({{UNIT_G, NONE, 2}, count})},
+        {unitOf({{UnitTypeEnum(-7), KILO, 1}, {UnitTypeEnum(-7), NONE, 1}}), 1000,
+         unitOf({{UNIT_NUMBER_OF, NONE, 2}})},
+        {unitOf({{UNIT_S, NONE, highest}, s, perMin}), 1.0 / 60, unitOf({{UNIT_S, NONE, highest}})},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.unit.getReduced().factor, row.factor) << testing::PrintToString(row.unit);
+        EXPECT_EQ(row.unit.getReduced().unit, row.reduced);
+    }
+}
+
+TEST(Unit, IsoForm)
+{
+    const struct {
+        Unit unit;
+        double factor;
+        Unit iso;
+    } rows[] = {
+        {unitOf({}), 1, unitOf({})},
+        {unitOf({perMin, perKgBody, mg}), (1.0 / 60) * 0.001 * 0.001,
+         unitOf({g, perS, {UNIT_G_PT, NONE, -1}})},
+        {unitOf({m, m}), 1, unitOf({m})}, // equal ISO elements count once
+        {unitOf({cm, m}), 0.01, unitOf({m})},
+        {unitOf({m, {UNIT_CM, NONE, -1}}), 100, unitOf({})},
+        {unitOf({m, {UNIT_CM, NONE, 2}, m}), 0.0001, unitOf({{UNIT_M, NONE, 3}})},
+        {unitOf({{UnitTypeEnum(99), NONE, 2}, mg, {UNIT_G, NONE, 0}}), 0.001,
+         unitOf({g, {UNIT_NUMBER_OF, NONE, 2}})},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.unit.getAsIsoUnit().factor, row.factor) << testing::PrintToString(row.unit);
+        EXPECT_EQ(row.unit.getAsIsoUnit().unit, row.iso);
+    }
+}
+
+TEST(Unit, CompatibilityAndEquivalence)
+{
+    const struct {
+        Unit a, b;
+        bool compatible, equivalent;
+    } rows[] = {
+        {unitOf({mg, perMin}), unitOf({g, perHr}), true, false},
+        {unitOf({mg, perMin}), unitOf({perMin, mg}), true, true},
+        {unitOf({mg}), unitOf({mg, perKgBody}), false, false},
+        {unitOf({mg, perKg}), unitOf({g, {UNIT_G, NONE, -1}}), true, false},
+        {unitOf({mg, perKg}), unitOf({}), true, false},
+        {unitOf({m, m}), unitOf({m}), true, false},
+        {unitOf({g}), unitOf({{UNIT_G_PT, NONE, 1}}), false, false},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.a.compatibleWith(row.b), row.compatible) << testing::PrintToString(row.a);
+        EXPECT_EQ(row.b.compatibleWith(row.a), row.compatible);
+        EXPECT_EQ(row.a.isEquivalent(row.b), row.equivalent) << testing::PrintToString(row.a);
+    }
+}
+
+TEST(Unit, Classes)
+{
+    const struct {
+        Unit unit;
+        bool valid;
+        unsigned int rateDivisor;
+        const char* classes; ///< the letters of the predicates that are true
+    } rows[] = {
+        {unitOf({}), true, 0, ""},
+        {unitOf({mL, perMin}), true, 60, "RV"},
+        {unitOf({{UNIT_L, NONE, 2}}), true, 0, ""},
+        {unitOf({mg, perKgBody, perHr}), true, 3600, "RPW"},
+        {unitOf({{UNIT_MOL, MICRO, 1}, {UNIT_L, NONE, -1}}), true, 0, "M"},
+        {unitOf({{UNIT_U, NONE, 1}, perHr}), true, 3600, "RU"},
+        {unitOf({{UNIT_IU, NONE, 1}, perMin, {UNIT_S, KILO, -1}}), true, 1, "R"},
+        {unitOf({{UNIT_HR, NONE, -2}}), true, 0, ""},
+        {unitOf({mg, {UNIT_L, NONE, 0}}), false, 0, "W"},
+        {unitOf({count}), false, 0, ""},
+        {unitOf({{UnitTypeEnum(15), NONE, 1}}), true, 0, ""},
+    };
+    for (const auto& row : rows) {
+        std::string classes;
+        classes += row.unit.unitIsRate() ? "R" : "";
+        classes += row.unit.unitIsVolume() ? "V" : "";
+        classes += row.unit.unitIsMol() ? "M" : "";
+        classes += row.unit.unitIsPrPt() ? "P" : "";
+        classes += row.unit.unitIsWeight() ? "W" : "";
+        classes += row.unit.unitIsUnit() ? "U" : "";
+        EXPECT_EQ(classes, row.classes) << testing::PrintToString(row.unit);
+        EXPECT_EQ(row.unit.isValid(), row.valid) << testing::PrintToString(row.unit);
+        EXPECT_EQ(row.unit.getRateDivisor(), row.rateDivisor) << testing::PrintToString(row.unit);
+    }
+}
+
+TEST(Unit, ListEdits)
+{
+    Unit unit = unitOf({mg, mL, mg});
+    unit.removeUnitType(UNIT_MOL);
+    EXPECT_EQ(unit, unitOf({mg, mL, mg}));
+    unit.removeUnitType(UNIT_G);
+    EXPECT_EQ(unit, unitOf({mL}));
+    EXPECT_EQ(unitOf({{UNIT_S, NONE, lowest}, mg}).inverted(),
+              unitOf({{UNIT_S, NONE, lowest}, {UNIT_G, MILLI, -1}}));
+    EXPECT_EQ(unitOf({perMin, mg, mg}).shiftPrefix(-1).unit,
+              unitOf({perMin, {UNIT_G, MICRO, 1}, mg}));
+    EXPECT_EQ(unitOf({perMin}).shiftPrefix(-1).factor, 1);
+}
+
+TEST(Unit, LongListsKeepEveryElement)
+{
+    Unit unit;
+    for (int i = 0; i < 20; ++i)
+        unit.elements.push_back({i % 2 == 0 ? UNIT_G : UNIT_L, MILLI, i + 1});
+    Unit copy = unit;
+    const Unit moved = std::move(copy);
+    EXPECT_EQ(moved, unit);
+    EXPECT_EQ(unit.mul(unit).elements.size(), 40U);
+    EXPECT_EQ(unit.inverted().inverted(), unit);
+    EXPECT_EQ(unit.getReduced().unit, unitOf({{UNIT_G, NONE, 100}, {UNIT_L, NONE, 110}}));
+    EXPECT_TRUE(unit.compatibleWith(unitOf({{UNIT_L, NONE, 110}, {UNIT_G, NONE, 100}})));
+
+    for (int i = 0; i < 10; ++i) // ten litres left: still long
+        unit.elements.push_back(perS);
+    unit.removeUnitType(UNIT_G);
+    EXPECT_EQ(unit.elements.size(), 20U);
+    unit.removeUnitType(UNIT_S);
+    EXPECT_EQ(unit.elements.size(), 10U);
+    unit.elements.push_back(unit.elements[0]);
+    unit.removeUnitType(UNIT_L);
+    EXPECT_TRUE(unit.elements.empty());
+}
+
+TEST(Unit, EverydayUnitsNeverAllocate)
+{
+    const UnitValue a(5, unitOf({mg, perKgBody, perMin, s}));
+    const UnitValue b(70, unitOf({{UNIT_G_PT, KILO, 1}, mL, {UNIT_G, MILLI, -1}, m}));
+    const std::size_t before = allocationCount();
+    UnitValue product = a.mul(b);
+    product = product.getReduced().inverted().div(a).toNormalized(3);
+    product.convertTo(product.unit.getAsIsoUnit().unit);
+    product.unit.removeUnitType(UNIT_S);
+    const bool asked = product.unit.compatibleWith(a.unit) || product.unit.isEquivalent(b.unit) ||
+                       product.unit.unitIsRate() || product.unit.getElementList().empty();
+    EXPECT_EQ(allocationCount() - before, 0U) << asked;
+}
+
+} // namespace
+} // namespace Pelmora::Native

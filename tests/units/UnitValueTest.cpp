@@ -1,0 +1,118 @@
+#include "pelmora/units/UnitValue.h"
+
+#include "tests/units/sampleUnits.h"
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+const Unit invalid = unitOf({count});
+
+void expectValue(const UnitValue& actual, double value, const Unit& unit)
+{
+    EXPECT_EQ(actual.value, value);
+    EXPECT_EQ(actual.unit, unit);
+}
+
+TEST(UnitValue, Products)
+{
+    const UnitValue dose(2, unitOf({mg}));
+    expectValue(dose.mul({3, unitOf({perMin})}), 6, unitOf({mg, perMin}));
+    expectValue(dose.mul({3, invalid}), 2, unitOf({mg}));
+    expectValue(UnitValue(3, invalid).mul(dose), 2, unitOf({mg}));
+    expectValue(UnitValue(3, invalid).mul({5, invalid}), 3, invalid);
+    expectValue(dose.mul({3, Unit()}), 6, unitOf({mg}));
+}
+
+TEST(UnitValue, InversesAndQuotients)
+{
+    const UnitValue perVolume(4, unitOf({{UNIT_L, MILLI, -1}, {UNIT_G, KILO, 1}}));
+    expectValue(perVolume.inverted(), 0.25, unitOf({mL, perKg}));
+    expectValue(UnitValue(0, unitOf({mg, perHr})).inverted(), 0, Unit());
+    expectValue(UnitValue(-0.0, invalid).inverted(), 0, Unit());
+    expectValue(UnitValue(4, invalid).inverted(), 4, invalid);
+    const UnitValue none(std::nan(""), unitOf({perHr}));
+    EXPECT_TRUE(std::isnan(none.inverted().value));
+    EXPECT_EQ(none.inverted().unit, unitOf({hr}));
+
+    const UnitValue dose(6, unitOf({mg}));
+    expectValue(dose.div({3, unitOf({mL})}), 6 * (1.0 / 3), unitOf({mg, {UNIT_L, MILLI, -1}}));
+    expectValue(dose.div({0, unitOf({mL})}), 0, unitOf({mg}));
+    expectValue(dose.div({3, invalid}), 6, unitOf({mg}));
+    expectValue(UnitValue(6, unitOf({mL, perMin, s})).getReduced(), 6 * (1.0 / 60), unitOf({mL}));
+}
+
+TEST(UnitValue, Conversions)
+{
+    const struct {
+        double value;
+        Unit unit, target;
+        double converted; ///< in the order of evaluation: value x factor / factor
+    } rows[] = {
+        {1, unitOf({hr}), unitOf({{UNIT_MIN, NONE, 1}}), 60},
+        {1, unitOf({{UNIT_MIUS, NONE, 1}}), unitOf({m}), 1609.34721869},
+        {1, unitOf({{UNIT_INCH, NONE, 1}}), unitOf({cm}), 0.0254 / 0.01},
+        {0.3, unitOf({mL, perMin}), unitOf({mL, perHr}),
+         0.3 * (0.001 * (1.0 / 60)) / (0.001 * (1.0 / 3600))},
+        {7, unitOf({mg}), unitOf({hr}), 7 * 0.001 / 3600}, // without meaning, but a number
+    };
+    for (const auto& row : rows) {
+        UnitValue value(row.value, row.unit);
+        EXPECT_EQ(value.getConvertedValue(row.target), row.converted);
+        value.convertTo(row.target);
+        expectValue(value, row.converted, row.target);
+    }
+}
+
+TEST(UnitValue, Normalisation)
+{
+    const auto grams = [](UnitPrefix prefix) { return unitOf({{UNIT_G, prefix, 1}, perHr}); };
+    const Unit units = unitOf({{UNIT_U, NONE, 1}, perHr});
+    const struct {
+        double value;
+        Unit unit;
+        int maxMagnitude;
+        double normalised;
+        Unit expected;
+    } rows[] = {
+        {0.05, grams(MILLI), 3, 0.05 * (0.001 / 1e-6), grams(MICRO)},
+        {0.00002, grams(NONE), 3, 0.00002 * (1 / 0.001) * (0.001 / 1e-6), grams(MICRO)},
+        {999, grams(MILLI), 3, 999, grams(MILLI)},
+        {1500, grams(MILLI), 3, 1500 * 0.001, grams(NONE)},
+        {999, grams(MILLI), 2, 999 * 0.001, grams(NONE)},
+        {0.1, grams(MILLI), 3, 0.1, grams(MILLI)},
+        {0.05, units, 3, 0.05, units},
+        {0.02, unitOf({perMin}), 3, 0.02, unitOf({perMin})},
+        {5e9, grams(GIGA), 3, 5e9, grams(GIGA)},
+        {0, grams(MILLI), 0, 0, grams(MILLI)},
+        {0, grams(MILLI), -1, 0, grams(GIGA)},
+        {-5, grams(MILLI), 3, -5 * (0.001 / 1e-6) * (1e-6 / 1e-9), grams(NANO)},
+        {0.01, unitOf({{UNIT_M, KILO, 2}}), 5, 0.01 * 1e6, unitOf({{UNIT_M, NONE, 2}})},
+        {-1, unitOf({{UNIT_G, NANO, 60}}), 3, -1, unitOf({{UNIT_G, NANO, 60}})},
+    };
+    for (const auto& row : rows)
+        expectValue(UnitValue(row.value, row.unit).toNormalized(row.maxMagnitude), row.normalised,
+                    row.expected);
+}
+
+TEST(UnitValue, DecimalMagnitude)
+{
+    const struct {
+        double value;
+        int magnitude;
+    } rows[] = {
+        {0, 0},     {-0.0, 0},    {1, 1},       {9.99, 1},    {10, 2},   {999.9, 3},
+        {1e9, 10},  {1e10, 11},   {1e300, 11},  {0.999, -1},  {0.1, -1}, {0.0999, -2},
+        {1e-5, -5}, {1e-11, -11}, {9e-12, -12}, {-1000, -12}, {-1, -12}, {std::nan(""), -12},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(decimalMagnitude(row.value), row.magnitude) << row.value;
+}
+
+} // namespace
+} // namespace Pelmora::Native

@@ -1,0 +1,154 @@
+#include "pelmora/units/unitText.h"
+
+#include "tests/printing.h"
+#include "tests/units/sampleUnits.h"
+
+#include <cmath>
+#include <locale>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+TEST(UnitText, Elements)
+{
+    const struct {
+        UnitElement element;
+        GString withSign, absolute;
+    } rows[] = {
+        {mg, u"mg", u"mg"},
+        {{UNIT_G_PT, KILO, -1}, u"kg^-1", u"kg"},
+        {{UNIT_L, MICRO, 2}, u"mcL\u00B2", u"mcL\u00B2"},
+        {{UNIT_S, NONE, -2}, u"s^-2", u"s\u00B2"},
+        {{UNIT_CM, NONE, 3}, u"cm\u00B3", u"cm\u00B3"},
+        {{UNIT_M, NONE, -3}, u"m^-3", u"m\u00B3"},
+        {{UNIT_MOL, NANO, 4}, u"nmol^4", u"nmol^4"},
+        {{UNIT_U, MEGA, lowest}, u"Munits^-2147483648", u"Munits^2147483648"},
+        {{UNIT_G, KILO, 0}, u"", u""},
+        {{UNIT_NUMBER_OF, GIGA, 2}, u"G\u00B2", u"G\u00B2"},
+        {{UnitTypeEnum(-1), UnitPrefix(4), 1}, u"", u""},
+        {{UNIT_MIUS, NONE, 1}, u"mi U.S.", u"mi U.S."},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.element.toString(false), row.withSign);
+        EXPECT_EQ(row.element.toString(true), row.absolute);
+    }
+}
+
+TEST(UnitText, Units)
+{
+    const struct {
+        Unit unit;
+        GString text;
+        std::string debug;
+    } rows[] = {
+        {unitOf({}), u"", "{  }"},
+        {unitOf({mg, perKgBody, perMin}), u"mg/kg/min", "{ mg, kg^-1, min^-1 }"},
+        {unitOf({perHr, mL}), u"mL/hr", "{ hr^-1, mL }"},
+        {unitOf({{UNIT_M, NONE, 2}, {UNIT_S, NONE, -2}}), u"m\u00B2/s\u00B2", "{ m\xB2, s^-2 }"},
+        {unitOf({perMin}), u"/min", "{ min^-1 }"},
+        {unitOf({g, m}), u"gm", "{ g, m }"},
+        {unitOf({{UNIT_L, NONE, 0}, {UNIT_PROCENT, NONE, 1}}), u"%", "{ , % }"},
+        {unitOf({count}), u"", "{  }"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.unit.toString(), row.text);
+        EXPECT_EQ(row.unit.toDebugString(), row.debug);
+    }
+}
+
+TEST(UnitText, Values)
+{
+    const struct {
+        double value;
+        Unit unit;
+        int precision;
+        GString text;
+    } rows[] = {
+        {2.5, unitOf({mg, perKg}), 1, u"2.5 mg/kg"},
+        {40, unitOf({mL, perHr}), 0, u"40 mL/hr"},
+        {7, Unit(), 2, u"7.00"},
+        {1.0 / 3, unitOf({mg}), -1, u"0.333333 mg"},
+        {1.0 / 3, unitOf({mg}), 3, u"0.333 mg"},
+        {0.125, unitOf({count}), 2, u"0.12"},
+        {1e21, unitOf({mg}), -5, u"1e+21 mg"},
+        {-std::nan(""), Unit(), 1, u"-nan"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(UnitValue(row.value, row.unit).toString(row.precision), row.text);
+    // Longer than any buffer for everyday numbers.
+    const GString longest = UnitValue(-std::numeric_limits<double>::max(), Unit()).toString(400);
+    EXPECT_EQ(longest.size(), 1U + 309 + 1 + 400);
+}
+
+TEST(UnitText, NormalisedValues)
+{
+    const Unit units = unitOf({{UNIT_U, NONE, 1}, perHr});
+    const struct {
+        double value;
+        Unit unit;
+        int digits;
+        GString text;
+    } rows[] = {
+        {0.05, unitOf({mg}), 3, u"50.0 mcg"},
+        {1500, unitOf({mg}), 3, u"1.50 g"},
+        {999, unitOf({mg}), 2, u"1.0 g"},
+        {120, unitOf({mg}), 3, u"120 mg"},
+        {5, Unit(), 3, u"5.00"},
+        {0.5, units, 3, u"0.500 units/hr"},
+        {0, units, 3, u"0.000 units/hr"},
+        {-5, units, 3, u"-5.0 units/hr"},
+        {1234.5, units, 3, u"1.23e+03 units/hr"},
+        {1234567, units, 0, u"1.23457e+06 units/hr"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(UnitValue(row.value, row.unit).toNormalizedString(row.digits), row.text);
+}
+
+TEST(UnitText, NumbersOfTheClassicLocaleAreThoseOfAStream)
+{
+    std::uint64_t random = 1;
+    for (int i = 0; i < 20000; ++i) {
+        random = random * 6364136223846793005U + 1442695040888963407U;
+        const int digits = 1 + i % 20;
+        const double value = std::ldexp(static_cast<double>(random >> 11), i % 130 - 100);
+        std::ostringstream general;
+        general.precision(digits);
+        general << value;
+        std::string number = formatSignificant(value, digits);
+        ASSERT_EQ(number.substr(0, general.str().size()), general.str());
+        std::ostringstream fixed;
+        fixed.precision(digits);
+        fixed << std::fixed << value;
+        ASSERT_EQ(UnitValue(value, Unit()).toString(digits).to_narrow(), fixed.str());
+    }
+}
+
+/// Decimal comma and groups of three, divided by a no-break space of code page 1252.
+class CommaPunctuation : public std::numpunct<char>
+{
+protected:
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '\xA0'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(UnitText, NumbersFollowTheGlobalLocale)
+{
+    const std::locale previous =
+        std::locale::global(std::locale(std::locale::classic(), new CommaPunctuation));
+    EXPECT_EQ(UnitValue(1234567.5, unitOf({mL, perHr})).toString(2),
+              u"1\u00A0234\u00A0567,50 mL/hr");
+    EXPECT_EQ(UnitValue(2.5, unitOf({mg})).toNormalizedString(3), u"2,5 mg"); // the comma counts
+    EXPECT_EQ(UnitValue(5, unitOf({mg})).toNormalizedString(3), u"5.00 mg");
+    EXPECT_EQ(unitOf({{UNIT_M, NONE, 1234}}).toString(), u"m^1234");
+    std::locale::global(previous);
+    EXPECT_EQ(UnitValue(1234.5, unitOf({mL})).toString(2), u"1234.50 mL");
+}
+
+} // namespace
+} // namespace Pelmora::Native
