@@ -1,0 +1,132 @@
+#pragma once
+
+#include "pelmora/api/NullReferenceError.h"
+#include "pelmora/api/Vocabulary.h"
+#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/platform/export.h"
+#include "pelmora/units/UnitValue.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+// The public unit objects. They hold plain data with public fields; each operation builds the
+// native values of units/ from them, calculates, and returns new objects that share nothing with
+// the operands.
+//
+// What callers share is visible in the types: a std::shared_ptr is a reference that several objects
+// may hold, and a change made through one of them shows through all. An operation that only reads
+// its argument takes an object or a reference to one. A null reference, as an argument or found in
+// a field, throws NullReferenceError, which names it; nothing else here fails.
+//
+// Objects may be read by several threads at once; whoever writes one keeps other threads away.
+
+namespace Pelmora
+{
+
+/// One factor of a unit: base unit, decimal prefix and power.
+class PELMORA_API UnitElement
+{
+public:
+    UnitTypeEnum unitType = UnitTypeEnum::UNIT_NUMBER_OF;
+    UnitPrefix prefix = UnitPrefix::NONE;
+    std::int32_t exponent = 1;
+
+    /// `UNIT_NUMBER_OF`, `NONE`, 1: a dimensionless count.
+    UnitElement() = default;
+    UnitElement(UnitTypeEnum unitType_, UnitPrefix prefix_, std::int32_t exponent_);
+    explicit UnitElement(const std::shared_ptr<UnitElement>& rhs);
+    explicit UnitElement(const Native::UnitElement& ue);
+
+    Native::UnitElement asNative() const;
+
+    /// Whether all three fields are equal; kilogram and gram are different.
+    bool isEqual(const UnitElement& rhs) const;
+    bool isEqual(const std::shared_ptr<UnitElement>& rhs) const;
+};
+
+/// A unit: the product of its elements in the order in which they were added.
+class PELMORA_API Unit
+{
+public:
+    using Elements = std::vector<std::shared_ptr<UnitElement>>;
+
+    /// Never null after construction. Copies of a unit share the array until one of them replaces
+    /// it, as `addElement` and `removeElement` do.
+    std::shared_ptr<Elements> elements;
+
+    /// One default element: a dimensionless count.
+    Unit();
+    /// The element itself, not a copy of it.
+    explicit Unit(const std::shared_ptr<UnitElement>& ue);
+    /// A unit that shares the array of `rhs`, as a copy of the object does.
+    explicit Unit(const std::shared_ptr<Unit>& rhs);
+    /// New elements in the native unit's order.
+    explicit Unit(const Native::Unit& u);
+
+    /// The native product of the elements in their order.
+    Native::Unit asNative() const;
+
+    /// Replaces the array by one that ends in `ue` itself. Nothing is merged.
+    void addElement(const std::shared_ptr<UnitElement>& ue);
+
+    /// Replaces the array by one without the elements of this kind and returns true; returns false
+    /// and keeps the array when there is none.
+    bool removeElement(UnitTypeEnum unitType_);
+
+    // What the ISO form of the unit holds; see Native::Unit.
+    bool unitIsRate() const;
+    bool unitIsVolume() const;
+    bool unitIsMol() const;
+    bool unitIsPrPt() const;
+    bool unitIsWeight() const;
+    bool unitIsUnit() const;
+
+    /// Whether values in the two units measure the same and convert into each other.
+    bool compatibleWith(const Unit& u) const;
+    bool compatibleWith(const std::shared_ptr<Unit>& u) const;
+
+    /// "mg/kg/min"; empty for a unit without text.
+    GString ToString() const;
+};
+
+/// A measured quantity: a number in a unit.
+class PELMORA_API UnitValue
+{
+public:
+    double value = 0.0;
+    std::shared_ptr<Unit> unit;
+
+    /// 0.0 of a new default unit.
+    UnitValue();
+    /// Keeps the reference: the value shares the unit with whoever else holds it.
+    UnitValue(double value_, const std::shared_ptr<Unit>& unit_);
+    /// A value that shares the unit of `rhs`, as a copy of the object does.
+    explicit UnitValue(const std::shared_ptr<UnitValue>& rhs);
+    explicit UnitValue(const Native::UnitValue& u);
+
+    Native::UnitValue asNative() const;
+
+    /// Product and quotient, reduced; see Native::UnitValue for invalid units and zero.
+    UnitValue mul(const UnitValue& rhs) const;
+    UnitValue mul(const std::shared_ptr<UnitValue>& rhs) const;
+    UnitValue div(const UnitValue& rhs) const;
+    UnitValue div(const std::shared_ptr<UnitValue>& rhs) const;
+
+    /// The value in another unit, in reduced form. Not checked: between units that are not
+    /// compatible the number has no meaning, so ask `Unit::compatibleWith` first.
+    UnitValue convertTo(const Unit& unit_) const;
+    UnitValue convertTo(const std::shared_ptr<Unit>& unit_) const;
+
+    /// With the prefix that makes the number readable: at least 0.1 and at most `significantDigits`
+    /// digits before the point, as far as prefixes reach.
+    UnitValue toNormalized(int significantDigits) const;
+
+    /// "13.1 mL/hr": normalised, with exactly so many significant digits.
+    GString toNormalizedString(int significantDigits) const;
+
+    /// "13.13 mL/hr": with so many digits after the point; negative for up to 6 significant digits.
+    GString ToString(int displayDecimals) const;
+};
+
+} // namespace Pelmora

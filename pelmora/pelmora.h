@@ -1,0 +1,8 @@
+#pragma once
+
+// The whole public object API.
+
+#include "pelmora/api/NullReferenceError.h"
+#include "pelmora/api/UnitFacade.h"
+#include "pelmora/api/Vocabulary.h"
+#include "pelmora/version.h"
