@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pelmora/pelmora.h"
+
+#include <optional>
+#include <string_view>
+
+namespace Infusions
+{
+
+/// The drug of a vocabulary name, "DOPAMINE", among those that are given as infusions.
+std::optional<Pelmora::DrugEnum> drugOfName(std::string_view vocabularyName);
+
+/// How the drug is called on screen.
+Pelmora::GString displayName(Pelmora::DrugEnum drug);
+
+} // namespace Infusions

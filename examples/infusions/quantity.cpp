@@ -1,0 +1,86 @@
+#include "quantity.h"
+
+#include <charconv>
+#include <cmath>
+#include <memory>
+#include <string>
+
+namespace Infusions
+{
+namespace
+{
+
+using Pelmora::UnitElement;
+using Pelmora::UnitPrefix;
+using Pelmora::UnitTypeEnum;
+
+struct UnitWord {
+    std::string_view word;
+    UnitTypeEnum kind;
+    UnitPrefix prefix;
+};
+
+constexpr UnitWord unitWords[] = {
+    {"ng", UnitTypeEnum::UNIT_G, UnitPrefix::NANO},
+    {"mcg", UnitTypeEnum::UNIT_G, UnitPrefix::MICRO},
+    {"mg", UnitTypeEnum::UNIT_G, UnitPrefix::MILLI},
+    {"g", UnitTypeEnum::UNIT_G, UnitPrefix::NONE},
+    {"kg", UnitTypeEnum::UNIT_G, UnitPrefix::KILO},
+    {"mL", UnitTypeEnum::UNIT_L, UnitPrefix::MILLI},
+    {"L", UnitTypeEnum::UNIT_L, UnitPrefix::NONE},
+    {"mmol", UnitTypeEnum::UNIT_MOL, UnitPrefix::MILLI},
+    {"units", UnitTypeEnum::UNIT_U, UnitPrefix::NONE},
+    {"IU", UnitTypeEnum::UNIT_IU, UnitPrefix::NONE},
+    {"min", UnitTypeEnum::UNIT_MIN, UnitPrefix::NONE},
+    {"hr", UnitTypeEnum::UNIT_HR, UnitPrefix::NONE},
+};
+
+std::shared_ptr<UnitElement> element(std::string_view word, Grams grams, std::int32_t exponent)
+{
+    for (const UnitWord& row : unitWords) {
+        if (row.word != word)
+            continue;
+        const bool isPatient = word == "kg" && (exponent < 0 || grams == Grams::ofPatient);
+        const UnitTypeEnum kind = isPatient ? UnitTypeEnum::UNIT_G_PT : row.kind;
+        return std::make_shared<UnitElement>(kind, row.prefix, exponent);
+    }
+    throw QuantityError("there is no unit '" + std::string(word) + "'");
+}
+
+std::shared_ptr<Pelmora::Unit> unit(std::string_view text, Grams grams)
+{
+    const std::size_t numeratorEnd = std::min(text.find('/'), text.size());
+    const auto result =
+        std::make_shared<Pelmora::Unit>(element(text.substr(0, numeratorEnd), grams, 1));
+    for (std::size_t slash = numeratorEnd; slash < text.size();) {
+        const std::size_t next = std::min(text.find('/', slash + 1), text.size());
+        result->addElement(element(text.substr(slash + 1, next - slash - 1), grams, -1));
+        slash = next;
+    }
+    return result;
+}
+
+} // namespace
+
+Pelmora::UnitValue quantity(std::string_view text, Grams grams)
+{
+    double number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (read.ec != std::errc())
+        throw QuantityError("'" + std::string(text) + "' does not begin with a number");
+    if (!(number > 0) || !std::isfinite(number))
+        throw QuantityError("'" + std::string(text) + "' is not more than nothing");
+    const auto rest = static_cast<std::size_t>(read.ptr - text.data());
+    return {number, unit(trimmed(text.substr(rest)), grams)};
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    constexpr std::string_view space = " \t\r";
+    const std::size_t first = text.find_first_not_of(space);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(space) - first + 1);
+}
+
+} // namespace Infusions

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "pelmora/pelmora.h"
+
+#include <stdexcept>
+#include <string_view>
+
+namespace Infusions
+{
+
+/// A text that is no quantity; the message says why.
+class QuantityError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Whose grams a quantity counts.
+enum class Grams {
+    ofDrug, ///< except below a "/kg", which is the patient's
+    ofPatient,
+};
+
+/// Reads "5 mcg/kg/min": a number greater than 0, one unit, and the units that divide it.
+/// Throws QuantityError for anything else.
+Pelmora::UnitValue quantity(std::string_view text, Grams grams = Grams::ofDrug);
+
+/// The text without white space at its ends.
+std::string_view trimmed(std::string_view text);
+
+} // namespace Infusions
