@@ -6,6 +6,8 @@
 #include <array>
 #include <cstddef>
 #include <initializer_list>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace Pelmora::Native
@@ -25,13 +27,30 @@ public:
         for (const UnitElement& element : elements)
             push_back(element);
     }
+    ElementList(const ElementList& other)
+        : few_(other.few_),
+          fewSize_(other.fewSize_),
+          many_(other.many_ == nullptr ? nullptr : std::make_unique<Heap>(*other.many_))
+    {
+    }
+    ElementList(ElementList&& other) noexcept = default;
+    ElementList& operator=(const ElementList& other)
+    {
+        ElementList copy(other);
+        return *this = std::move(copy);
+    }
+    ElementList& operator=(ElementList&& other) noexcept = default;
+    ~ElementList() = default;
 
-    std::size_t size() const noexcept { return many_.empty() ? fewSize_ : many_.size(); }
+    std::size_t size() const noexcept { return many_ == nullptr ? fewSize_ : many_->size(); }
     bool empty() const noexcept { return size() == 0; }
 
-    UnitElement* begin() noexcept { return many_.empty() ? few_.data() : many_.data(); }
+    UnitElement* begin() noexcept { return many_ == nullptr ? few_.data() : many_->data(); }
     UnitElement* end() noexcept { return begin() + size(); }
-    const UnitElement* begin() const noexcept { return many_.empty() ? few_.data() : many_.data(); }
+    const UnitElement* begin() const noexcept
+    {
+        return many_ == nullptr ? few_.data() : many_->data();
+    }
     const UnitElement* end() const noexcept { return begin() + size(); }
 
     /// Requires: index < size().
@@ -40,27 +59,23 @@ public:
 
     void push_back(const UnitElement& element)
     {
-        if (many_.empty() && fewSize_ < few_.size()) {
+        if (many_ == nullptr && fewSize_ < few_.size()) {
             few_[fewSize_++] = element;
             return;
         }
         const UnitElement kept = element; // may stand in the list that moves
-        if (many_.empty())
-            many_.assign(few_.begin(), few_.end());
-        many_.push_back(kept);
+        if (many_ == nullptr)
+            many_ = std::make_unique<Heap>(begin(), end());
+        many_->push_back(kept);
     }
 
     /// Drops every element from position `count` on. Requires: count <= size().
     void truncate(std::size_t count)
     {
-        if (!many_.empty() && count > few_.size()) {
-            many_.erase(many_.begin() + static_cast<std::ptrdiff_t>(count), many_.end());
-            return;
-        }
-        if (!many_.empty())
-            std::copy_n(many_.begin(), count, few_.begin());
-        many_.clear();
-        fewSize_ = count;
+        if (many_ == nullptr)
+            fewSize_ = count;
+        else
+            many_->erase(many_->begin() + static_cast<std::ptrdiff_t>(count), many_->end());
     }
 
     friend bool operator==(const ElementList& a, const ElementList& b) noexcept
@@ -69,12 +84,13 @@ public:
     }
 
 private:
-    static constexpr UnitElement unused{UnitTypeEnum::UNIT_NUMBER_OF, UnitPrefix::NONE, 0};
+    using Heap = std::vector<UnitElement>;
+    static constexpr UnitElement unused{UnitTypeEnum::UNIT_G, UnitPrefix::NONE, 0};
 
     std::array<UnitElement, 8> few_ = {unused, unused, unused, unused,
                                        unused, unused, unused, unused};
     std::size_t fewSize_ = 0;
-    std::vector<UnitElement> many_; ///< all elements, once there are more than `few_` can hold
+    std::unique_ptr<Heap> many_; ///< all elements, once they did not fit `few_`
 };
 
 } // namespace Pelmora::Native

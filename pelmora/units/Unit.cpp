@@ -1,7 +1,10 @@
 #include "pelmora/units/Unit.h"
 
+#include "pelmora/units/isoFactor.h"
+
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace Pelmora::Native
 {
@@ -23,7 +26,7 @@ ElementList isoSet(const ElementList& elements)
 {
     ElementList set;
     for (const UnitElement& element : elements)
-        set.push_back(element.toIso().element);
+        set.push_back({kindRow(element.unitType).isoKind, UnitPrefix::NONE, element.exponent});
     std::sort(set.begin(), set.end());
     set.truncate(static_cast<std::size_t>(std::unique(set.begin(), set.end()) - set.begin()));
     return set;
@@ -41,6 +44,60 @@ ElementList isoElements(const ElementList& elements)
             result.push_back(sum);
     }
     return result;
+}
+
+/// For each kind the place of its ISO kind in a number to the base 64.
+constexpr std::array<std::int64_t, kindRows.size()> isoPlaces = [] {
+    std::array<std::int64_t, kindRows.size()> places{};
+    std::int64_t next = 1;
+    for (std::size_t kind = 0; kind < kindRows.size(); ++kind) {
+        const auto isoKind = static_cast<std::size_t>(kindRows[kind].isoKind);
+        if (places[isoKind] == 0) {
+            places[isoKind] = next;
+            next *= 64;
+        }
+        places[kind] = places[isoKind];
+    }
+    return places;
+}();
+
+std::int64_t isoPlace(const UnitElement& element) noexcept
+{
+    return isoPlaces[kindIndex(element.unitType)];
+}
+
+/// Whether the elements' ISO forms are equal one by one, as of mg/min and g/hr.
+bool isoFormsAreEqualInOrder(const ElementList& a, const ElementList& b) noexcept
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const UnitElement& x, const UnitElement& y) {
+                          return x.exponent == y.exponent && isoPlace(x) == isoPlace(y);
+                      });
+}
+
+/// One number for the elements of the ISO form, equal for equal forms: its digits to the base 64
+/// are the sums of exponents, from -24 to 24. Nothing for units whose sums could be larger.
+std::optional<std::int64_t> isoSignature(const ElementList& elements) noexcept
+{
+    constexpr std::size_t mostElements = 8;
+    constexpr std::int32_t largestExponent = 3;
+    if (elements.size() > mostElements)
+        return std::nullopt;
+    std::array<std::int64_t, mostElements> parts;
+    std::int64_t signature = 0;
+    std::size_t count = 0;
+    for (const UnitElement& element : elements) {
+        if (element.exponent < -largestExponent || element.exponent > largestExponent)
+            return std::nullopt;
+        const std::int64_t part = element.exponent * isoPlace(element);
+        // Equal ISO elements count once.
+        bool isNew = true;
+        for (std::size_t i = 0; i < count; ++i)
+            isNew = isNew && parts[i] != part;
+        parts[count++] = part;
+        signature += isNew ? part : 0;
+    }
+    return signature;
 }
 
 bool isoHas(const Unit& unit, UnitTypeEnum kind, std::int32_t exponent)
@@ -71,34 +128,37 @@ Unit Unit::inverted() const
 ScaledUnit Unit::getReduced() const
 {
     ScaledUnit result = {1, {}};
-    ElementList work = elements;
+    if (elements.empty())
+        return result;
+    ElementList copy = elements;
+    UnitElement* const last = copy.end() - 1;
     constexpr UnitElement consumed(UnitTypeEnum::UNIT_NUMBER_OF, UnitPrefix::NONE, 0);
 
-    for (std::size_t i = 0; i + 1 < work.size(); ++i) {
-        const UnitElement element = work[i];
+    for (UnitElement* position = copy.begin(); position != last; ++position) {
+        const UnitElement element = *position;
         if (element.exponent == 0)
             continue;
         bool merged = false;
         std::int32_t total = element.exponent;
-        for (std::size_t j = i + 1; j < work.size(); ++j) {
-            if (!element.sameDimension(work[j]))
+        for (UnitElement* later = position + 1; later <= last; ++later) {
+            if (!haveSameDimension(element.unitType, later->unitType))
                 continue;
             merged = true;
-            result.factor *= work[j].toIso().factor;
-            total = wrappedSum(total, work[j].exponent);
-            work[j] = consumed;
+            result.factor *= Native::isoFactor(later->prefix, later->unitType, later->exponent);
+            total = wrappedSum(total, later->exponent);
+            *later = consumed;
         }
         if (!merged) {
             result.unit.elements.push_back(element);
             continue;
         }
-        const ScaledElement iso = element.toIso();
-        result.factor *= iso.factor;
+        result.factor *= Native::isoFactor(element.prefix, element.unitType, element.exponent);
         if (total != 0)
-            result.unit.elements.push_back({iso.element.unitType, UnitPrefix::NONE, total});
+            result.unit.elements.push_back(
+                {kindRow(element.unitType).isoKind, UnitPrefix::NONE, total});
     }
-    if (!work.empty() && work[work.size() - 1].exponent != 0)
-        result.unit.elements.push_back(work[work.size() - 1]);
+    if (last->exponent != 0)
+        result.unit.elements.push_back(*last);
     return result;
 }
 
@@ -113,12 +173,18 @@ double Unit::isoFactor() const noexcept
 {
     double factor = 1;
     for (const UnitElement& element : elements)
-        factor *= element.toIso().factor;
+        factor *= Native::isoFactor(element.prefix, element.unitType, element.exponent);
     return factor;
 }
 
 bool Unit::compatibleWith(const Unit& other) const
 {
+    if (isoFormsAreEqualInOrder(elements, other.elements))
+        return true;
+    const auto signature = isoSignature(elements);
+    const auto otherSignature = isoSignature(other.elements);
+    if (signature && otherSignature)
+        return *signature == *otherSignature;
     return isoElements(elements) == isoElements(other.elements);
 }
 

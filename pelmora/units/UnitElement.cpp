@@ -1,7 +1,6 @@
 #include "pelmora/units/UnitElement.h"
 
 #include "pelmora/units/isoFactor.h"
-#include "pelmora/units/unitTables.h"
 
 #include <algorithm>
 
@@ -28,10 +27,7 @@ ScaledElement UnitElement::toIso() const noexcept
 
 bool UnitElement::sameDimension(const UnitElement& other) const noexcept
 {
-    if (unitType == other.unitType)
-        return true;
-    const Dimension dimension = kindRow(unitType).dimension;
-    return dimension != Dimension::own && dimension == kindRow(other.unitType).dimension;
+    return haveSameDimension(unitType, other.unitType);
 }
 
 ScaledElement UnitElement::shiftPrefix(int steps) const noexcept

@@ -1,7 +1,5 @@
 #include "pelmora/units/isoFactor.h"
 
-#include "pelmora/units/unitTables.h"
-
 #include <bit>
 #include <limits>
 
@@ -130,35 +128,24 @@ constexpr double power(double base, std::int32_t exponent)
     return rounded(exponent < 0 ? reciprocal(result) : result);
 }
 
-constexpr std::int32_t tableReach = 8;
-
-using PowerRow = std::array<double, 2 * tableReach + 1>;
-using PowerTable = std::array<std::array<PowerRow, kindFactors.size()>, prefixRows.size()>;
-
 constexpr PowerTable makePowerTable()
 {
     PowerTable table{};
-    for (std::size_t prefix = 0; prefix < prefixRows.size(); ++prefix)
-        for (std::size_t kind = 0; kind < kindFactors.size(); ++kind)
-            for (std::int32_t exponent = -tableReach; exponent <= tableReach; ++exponent)
-                table[prefix][kind][static_cast<std::size_t>(exponent + tableReach)] =
-                    power(prefixRows[prefix].factor * kindFactors[kind], exponent);
+    for (std::size_t kind = 0; kind < kindRows.size(); ++kind)
+        for (std::size_t prefix = 0; prefix < prefixRows.size(); ++prefix)
+            for (std::int32_t exponent = -powerTableReach; exponent <= powerTableReach; ++exponent)
+                table[kind][prefix][static_cast<std::size_t>(exponent + powerTableReach)] =
+                    power(prefixRows[prefix].factor * kindRows[kind].factor, exponent);
     return table;
 }
 
-constexpr PowerTable powerTable = makePowerTable();
-
 } // namespace
 
-double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept
+constexpr PowerTable powerTable = makePowerTable();
+
+double factorPower(double base, std::int32_t exponent) noexcept
 {
-    const std::size_t prefixAt = prefixIndex(prefix);
-    if (prefixAt >= prefixRows.size())
-        return power(0, exponent);
-    const auto kindAt = static_cast<std::size_t>(kindRow(kind).factor);
-    if (exponent >= -tableReach && exponent <= tableReach)
-        return powerTable[prefixAt][kindAt][static_cast<std::size_t>(exponent + tableReach)];
-    return power(prefixRows[prefixAt].factor * kindFactors[kindAt], exponent);
+    return power(base, exponent);
 }
 
 } // namespace Pelmora::Native

@@ -1,17 +1,43 @@
 #pragma once
 
-#include "pelmora/units/unitKinds.h"
+#include "pelmora/units/unitTables.h"
+
+#include <array>
+#include <cstddef>
+
+// The powers of the prefixes' and kinds' factors. Internal to the units folder.
+//
+// They are correctly rounded for every prefix, kind and exponent, with nothing but IEEE double
+// arithmetic: the C runtimes' `pow` differ in the last bits, and with them the two builds would
+// print different digits.
 
 namespace Pelmora::Native
 {
 
+/// The powers by kind, prefix and exponent, for exponents of at most `powerTableReach` either way.
+/// The rows are as long as powers of two, so that shifts find an entry.
+inline constexpr std::int32_t powerTableReach = 7;
+
+using PowerRow = std::array<double, 16>;
+using PowerTable = std::array<std::array<PowerRow, 8>, 16>;
+
+extern const PowerTable powerTable;
+
+/// Any power; 0 to a negative power is infinity. Requires: `base` is a product of the factors or 0.
+double factorPower(double base, std::int32_t exponent) noexcept;
+
 /// (prefix factor x kind factor) to the power `exponent`: the factor from one prefixed unit to its
-/// ISO kind. A prefix out of range has the factor 0, whose negative powers are infinite; a kind
-/// out of range has the factor 1.
-///
-/// Correctly rounded for every prefix, kind and exponent, with nothing but IEEE double arithmetic:
-/// the C runtimes' `pow` differ in the last bits, and with them the two builds would print
-/// different digits. Exponents -8 to 8 come from a table.
-double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept;
+/// ISO kind. A prefix out of range has the factor 0, a kind out of range 1.
+inline double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept
+{
+    const std::size_t prefixAt = prefixIndex(prefix);
+    const auto exponentAt =
+        static_cast<std::uint32_t>(exponent) + static_cast<std::uint32_t>(powerTableReach);
+    if (prefixAt >= prefixRows.size())
+        return factorPower(0, exponent);
+    if (exponentAt > 2 * powerTableReach)
+        return factorPower(prefixRows[prefixAt].factor * kindRow(kind).factor, exponent);
+    return powerTable[kindIndex(kind)][prefixAt][exponentAt];
+}
 
 } // namespace Pelmora::Native

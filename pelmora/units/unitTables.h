@@ -14,42 +14,49 @@ namespace Pelmora::Native
 
 enum class Dimension : std::uint8_t { own, time, length };
 
-/// The kinds' factors to their ISO kind, each once.
-enum class KindFactor : std::uint8_t { one, minute, hour, mile, inch, centimetre };
-
-inline constexpr std::array<double, 6> kindFactors = {1, 60, 3600, 1609.34721869, 0.0254, 0.01};
-
 struct KindRow {
     std::string_view symbol;
     UnitTypeEnum isoKind;
-    KindFactor factor;
+    double factor; ///< to the ISO kind
     Dimension dimension;
     bool prefixMayChange;
 };
 
 inline constexpr std::array<KindRow, 15> kindRows = {{
-    {"g", UnitTypeEnum::UNIT_G, KindFactor::one, Dimension::own, true},
-    {"L", UnitTypeEnum::UNIT_L, KindFactor::one, Dimension::own, true},
-    {"s", UnitTypeEnum::UNIT_S, KindFactor::one, Dimension::time, false},
-    {"min", UnitTypeEnum::UNIT_S, KindFactor::minute, Dimension::time, false},
-    {"hr", UnitTypeEnum::UNIT_S, KindFactor::hour, Dimension::time, false},
-    {"m", UnitTypeEnum::UNIT_M, KindFactor::one, Dimension::length, true},
-    {"mi U.S.", UnitTypeEnum::UNIT_M, KindFactor::mile, Dimension::length, true},
-    {"inch", UnitTypeEnum::UNIT_M, KindFactor::inch, Dimension::length, false},
-    {"cm", UnitTypeEnum::UNIT_M, KindFactor::centimetre, Dimension::length, false},
-    {"mol", UnitTypeEnum::UNIT_MOL, KindFactor::one, Dimension::own, true},
-    {"IU", UnitTypeEnum::UNIT_IU, KindFactor::one, Dimension::own, false},
-    {"units", UnitTypeEnum::UNIT_U, KindFactor::one, Dimension::own, false},
-    {"%", UnitTypeEnum::UNIT_PROCENT, KindFactor::one, Dimension::own, false},
-    {"g", UnitTypeEnum::UNIT_G_PT, KindFactor::one, Dimension::own, true},
-    {"", UnitTypeEnum::UNIT_NUMBER_OF, KindFactor::one, Dimension::own, true},
+    {"g", UnitTypeEnum::UNIT_G, 1, Dimension::own, true},
+    {"L", UnitTypeEnum::UNIT_L, 1, Dimension::own, true},
+    {"s", UnitTypeEnum::UNIT_S, 1, Dimension::time, false},
+    {"min", UnitTypeEnum::UNIT_S, 60, Dimension::time, false},
+    {"hr", UnitTypeEnum::UNIT_S, 3600, Dimension::time, false},
+    {"m", UnitTypeEnum::UNIT_M, 1, Dimension::length, true},
+    {"mi U.S.", UnitTypeEnum::UNIT_M, 1609.34721869, Dimension::length, true},
+    {"inch", UnitTypeEnum::UNIT_M, 0.0254, Dimension::length, false},
+    {"cm", UnitTypeEnum::UNIT_M, 0.01, Dimension::length, false},
+    {"mol", UnitTypeEnum::UNIT_MOL, 1, Dimension::own, true},
+    {"IU", UnitTypeEnum::UNIT_IU, 1, Dimension::own, false},
+    {"units", UnitTypeEnum::UNIT_U, 1, Dimension::own, false},
+    {"%", UnitTypeEnum::UNIT_PROCENT, 1, Dimension::own, false},
+    {"g", UnitTypeEnum::UNIT_G_PT, 1, Dimension::own, true},
+    {"", UnitTypeEnum::UNIT_NUMBER_OF, 1, Dimension::own, true},
 }};
 
-/// The row of a kind; a kind outside the table has the row of `UNIT_NUMBER_OF`, the last one.
-constexpr const KindRow& kindRow(UnitTypeEnum kind) noexcept
+/// The row number of a kind; a kind outside the table has the last row, that of `UNIT_NUMBER_OF`.
+constexpr std::size_t kindIndex(UnitTypeEnum kind) noexcept
 {
     const auto index = static_cast<std::uint32_t>(kind);
-    return kindRows[index < kindRows.size() ? index : kindRows.size() - 1];
+    return index < kindRows.size() ? index : kindRows.size() - 1;
+}
+
+constexpr const KindRow& kindRow(UnitTypeEnum kind) noexcept
+{
+    return kindRows[kindIndex(kind)];
+}
+
+/// Whether two elements of these kinds may be merged.
+constexpr bool haveSameDimension(UnitTypeEnum a, UnitTypeEnum b) noexcept
+{
+    const Dimension dimension = kindRow(a).dimension;
+    return a == b || (dimension != Dimension::own && dimension == kindRow(b).dimension);
 }
 
 struct PrefixRow {

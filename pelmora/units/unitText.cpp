@@ -1,5 +1,6 @@
 #include "pelmora/units/unitText.h"
 
+#include "pelmora/gettext/utf8.h"
 #include "pelmora/units/unitTables.h"
 
 #include <charconv>
@@ -55,80 +56,120 @@ std::string numberText(double value, NumberFormat format)
     return isClassic ? classicNumber(value, format) : streamedNumber(value, format);
 }
 
-void appendAscii(GString::Text& text, std::string_view ascii)
+/// Collects units of a text in place before the one allocation that the result may need.
+class TextBuilder
 {
-    text.append(ascii.begin(), ascii.end());
-}
+public:
+    void append(WideChar unit)
+    {
+        if (used_ == units_.size())
+            flush();
+        units_[used_++] = unit;
+    }
 
-void appendPower(GString::Text& text, std::int64_t exponent)
+    void appendAscii(std::string_view ascii)
+    {
+        for (const char character : ascii)
+            append(static_cast<WideChar>(character));
+    }
+
+    std::size_t size() const { return flushed_.size() + used_; }
+
+    /// Requires: the last call appended something.
+    void dropLast() { --used_; }
+
+    GString take()
+    {
+        if (flushed_.empty())
+            return GString::View(units_.data(), used_);
+        flush();
+        return std::move(flushed_);
+    }
+
+private:
+    void flush()
+    {
+        flushed_.append(units_.data(), used_);
+        used_ = 0;
+    }
+
+    std::array<WideChar, 128> units_;
+    std::size_t used_ = 0;
+    GString::Text flushed_;
+};
+
+void appendPower(TextBuilder& text, std::int64_t exponent)
 {
     if (exponent == 1)
         return;
     if (exponent == 2) {
-        text += superscriptTwo;
+        text.append(superscriptTwo);
     } else if (exponent == 3) {
-        text += superscriptThree;
+        text.append(superscriptThree);
     } else {
         std::array<char, 16> digits;
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), exponent).ptr;
-        text += u'^';
-        appendAscii(text, {digits.data(), end});
+        text.append(u'^');
+        text.appendAscii({digits.data(), end});
     }
 }
 
-void appendElement(GString::Text& text, const UnitElement& element, bool absoluteExponent)
+void appendElement(TextBuilder& text, const UnitElement& element, bool absoluteExponent)
 {
     if (element.exponent == 0)
         return;
     const std::size_t prefix = prefixIndex(element.prefix);
     if (prefix < prefixRows.size())
-        appendAscii(text, prefixRows[prefix].symbol);
-    appendAscii(text, kindRow(element.unitType).symbol);
+        text.appendAscii(prefixRows[prefix].symbol);
+    text.appendAscii(kindRow(element.unitType).symbol);
     const std::int64_t exponent = element.exponent;
     appendPower(text, absoluteExponent && exponent < 0 ? -exponent : exponent);
 }
 
-void appendUnit(GString::Text& text, const Unit& unit)
+void appendUnit(TextBuilder& text, const Unit& unit)
 {
     for (const UnitElement& element : unit.elements)
         if (element.exponent > 0)
             appendElement(text, element, true);
     for (const UnitElement& element : unit.elements) {
         if (element.exponent < 0) {
-            text += u'/';
+            text.append(u'/');
             appendElement(text, element, true);
         }
     }
 }
 
-GString withUnit(std::string_view number, const Unit& unit)
+GString withUnit(const std::string& number, const Unit& unit)
 {
-    // Numbers from a locale of the caller's may hold any character of the ANSI code page.
-    GString::Text text = GString(number).text();
-    constexpr std::size_t usualElement = 5;
-    text.reserve(text.size() + 1 + usualElement * unit.elements.size());
-    text += u' ';
+    TextBuilder text;
+    if (asciiPrefix(number) == number.size()) {
+        text.appendAscii(number);
+    } else { // from a locale of the caller's, in the ANSI code page
+        for (const WideChar digit : GString(number))
+            text.append(digit);
+    }
+    text.append(u' ');
     const std::size_t unitStart = text.size();
     appendUnit(text, unit);
     if (text.size() == unitStart)
-        text.pop_back();
-    return text;
+        text.dropLast();
+    return text.take();
 }
 
 } // namespace
 
 GString UnitElement::toString(bool absoluteExponent) const
 {
-    GString::Text text;
+    TextBuilder text;
     appendElement(text, *this, absoluteExponent);
-    return text;
+    return text.take();
 }
 
 GString Unit::toString() const
 {
-    GString::Text text;
+    TextBuilder text;
     appendUnit(text, *this);
-    return text;
+    return text.take();
 }
 
 std::string Unit::toDebugString() const
