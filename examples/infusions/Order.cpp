@@ -64,7 +64,7 @@ std::optional<UnitValue> patientWeight(std::string_view field)
 
 std::shared_ptr<Unit> millilitrePerHour()
 {
-    const auto unit = std::make_shared<Unit>(
+    auto unit = std::make_shared<Unit>(
         std::make_shared<UnitElement>(UnitTypeEnum::UNIT_L, UnitPrefix::MILLI, 1));
     unit->addElement(std::make_shared<UnitElement>(UnitTypeEnum::UNIT_HR, UnitPrefix::NONE, -1));
     return unit;

@@ -50,8 +50,7 @@ std::shared_ptr<UnitElement> element(std::string_view word, Grams grams, std::in
 std::shared_ptr<Pelmora::Unit> unit(std::string_view text, Grams grams)
 {
     const std::size_t numeratorEnd = std::min(text.find('/'), text.size());
-    const auto result =
-        std::make_shared<Pelmora::Unit>(element(text.substr(0, numeratorEnd), grams, 1));
+    auto result = std::make_shared<Pelmora::Unit>(element(text.substr(0, numeratorEnd), grams, 1));
     for (std::size_t slash = numeratorEnd; slash < text.size();) {
         const std::size_t next = std::min(text.find('/', slash + 1), text.size());
         result->addElement(element(text.substr(slash + 1, next - slash - 1), grams, -1));

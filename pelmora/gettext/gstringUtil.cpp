@@ -137,7 +137,7 @@ GString GString::from_utf8(std::string_view utf8)
         std::uint32_t value = 0;
         const int length = decodeUtf8(utf8, longestSequence, value);
         if (length < 1)
-            throw static_cast<const char*>("UTF8 error: source too large");
+            throw "UTF8 error: source too large"; // NOLINT: callers expect a C string
         text += static_cast<WideChar>(value);
         utf8.remove_prefix(static_cast<std::size_t>(length));
     }
@@ -170,7 +170,7 @@ std::string GString::to_utf8() const
     for (const WideChar unit : text_) {
         const int length = encodeUtf8(unit, sequence);
         if (length < 1)
-            throw static_cast<const char*>("UTF8 error: result too large");
+            throw "UTF8 error: result too large"; // NOLINT: callers expect a C string
         result.append(sequence.data(), static_cast<std::size_t>(length));
     }
     return result;

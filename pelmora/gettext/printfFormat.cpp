@@ -146,7 +146,7 @@ std::string printed(const std::string& format, Value value)
     if (length <= 0)
         return {};
     std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    std::snprintf(text.data(), text.size(), format.c_str(), value);
+    static_cast<void>(std::snprintf(text.data(), text.size(), format.c_str(), value));
     text.pop_back();
     return text;
 }

@@ -49,9 +49,9 @@ struct PELMORA_API UnitElement {
     friend constexpr std::strong_ordering operator<=>(const UnitElement& a,
                                                       const UnitElement& b) noexcept
     {
-        if (const auto kinds = a.unitType <=> b.unitType; kinds != 0)
+        if (const auto kinds = a.unitType <=> b.unitType; std::is_neq(kinds))
             return kinds;
-        if (const auto exponents = a.exponent <=> b.exponent; exponents != 0)
+        if (const auto exponents = a.exponent <=> b.exponent; std::is_neq(exponents))
             return exponents;
         return a.prefix <=> b.prefix;
     }

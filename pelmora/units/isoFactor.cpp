@@ -133,9 +133,9 @@ constexpr PowerTable makePowerTable()
     PowerTable table{};
     for (std::size_t kind = 0; kind < kindRows.size(); ++kind)
         for (std::size_t prefix = 0; prefix < prefixRows.size(); ++prefix)
-            for (std::int32_t exponent = -powerTableReach; exponent <= powerTableReach; ++exponent)
-                table[kind][prefix][static_cast<std::size_t>(exponent + powerTableReach)] =
-                    power(prefixRows[prefix].factor * kindRows[kind].factor, exponent);
+            for (std::int32_t entry = 0; entry <= 2 * powerTableReach; ++entry)
+                table[kind][prefix][static_cast<std::size_t>(entry)] = power(
+                    prefixRows[prefix].factor * kindRows[kind].factor, entry - powerTableReach);
     return table;
 }
 
