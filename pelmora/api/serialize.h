@@ -1,12 +1,15 @@
 #pragma once
 
+#include "pelmora/api/ExceptionData.h"
 #include "pelmora/api/UnitFacade.h"
+
+#include <string>
 
 // The public objects as an archive library sees them: functions in the common `archive(field, ...)`
 // form, in the order of the fields, found by argument-dependent look-up. They work with any library
-// that calls `serialize(archive, object)` and knows std::shared_ptr, std::vector and enumerations.
-// Sharing survives where the library tracks std::shared_ptr: two units that share one array still
-// share it after a round trip.
+// that calls `serialize(archive, object)` and knows std::shared_ptr, std::vector, std::string and
+// enumerations. Texts are written as UTF-8. Sharing survives where the library tracks
+// std::shared_ptr: two units that share one array still share it after a round trip.
 
 namespace Pelmora
 {
@@ -27,6 +30,26 @@ template <class Archive>
 void serialize(Archive& archive, UnitValue& value)
 {
     archive(value.value, value.unit);
+}
+
+/// Requires: the archive's text is what `GString::to_utf8` makes.
+template <class Archive>
+void serialize(Archive& archive, ExceptionData& report)
+{
+    const auto text = [&archive](GString& field) {
+        std::string utf8 = field.to_utf8();
+        archive(utf8);
+        field = GString::from_utf8(utf8);
+    };
+    text(report.mSource);
+    text(report.mTargetSite);
+    text(report.mMessage);
+    text(report.mStackTrace);
+    auto milliseconds = report.mDateTime.time_since_epoch().count();
+    archive(milliseconds, report.mPriority, report.mType);
+    report.mDateTime = ExceptionData::DateTime(ExceptionData::DateTime::duration(milliseconds));
+    text(report.mDestination);
+    text(report.mParameters);
 }
 
 } // namespace Pelmora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 namespace Pelmora::Native
 {
 
@@ -9,7 +11,11 @@ template <class T>
 union NeverDestroyed {
     T value;
 
-    NeverDestroyed() : value() {}
+    template <class... Arguments>
+    constexpr explicit NeverDestroyed(Arguments&&... arguments)
+        : value(std::forward<Arguments>(arguments)...)
+    {
+    }
     ~NeverDestroyed() {} // NOLINT(modernize-use-equals-default): would be deleted
     NeverDestroyed(const NeverDestroyed&) = delete;
     NeverDestroyed& operator=(const NeverDestroyed&) = delete;

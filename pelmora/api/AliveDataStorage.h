@@ -1,0 +1,31 @@
+#pragma once
+
+#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/platform/export.h"
+
+#include <memory>
+
+namespace Pelmora
+{
+
+/// Four values that the parts of a program share. There is one object, made by the first `get` and
+/// never replaced; its fields are read and written directly, without a lock or a check.
+class PELMORA_API AliveDataStorage
+{
+public:
+    GString mMasterClientId;
+    GString mServerUserId;
+    GString mLastPhysicalCheck;
+    bool mUpdated = false;
+
+    /// Always the same object; may be called by several threads at once.
+    static const std::shared_ptr<AliveDataStorage>& get();
+
+    AliveDataStorage(const AliveDataStorage&) = delete;
+    AliveDataStorage& operator=(const AliveDataStorage&) = delete;
+
+private:
+    AliveDataStorage() = default;
+};
+
+} // namespace Pelmora

@@ -1,0 +1,19 @@
+#include "pelmora/api/Exception.h"
+
+#include "pelmora/platform/stackTrace.h"
+
+namespace Pelmora
+{
+
+Exception::Exception(const GString& message, const GString& source, const char* targetSite)
+    : std::runtime_error(message.to_utf8()),
+      message_(message),
+      source_(source),
+      targetSite_(std::string_view(targetSite)),
+      stackTrace_(Native::Platform::stackTrace())
+{
+}
+
+Exception::~Exception() = default;
+
+} // namespace Pelmora

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/platform/export.h"
+#include "pelmora/platform/sourceLocation.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace Pelmora
+{
+
+/// An error of an application that knows where it came from: what an `ExceptionData` report is best
+/// made of. Thrown as it is, or as the base of an application's own exceptions.
+class PELMORA_API Exception : public std::runtime_error
+{
+public:
+    /// `source` names the application or object that raises it. The function that makes the
+    /// exception is its target site, and the calls that led there are its stack.
+    explicit Exception(
+        const GString& message, const GString& source = {},
+        const Native::Platform::SourceLocation& site = Native::Platform::SourceLocation::current())
+        : Exception(message, source, site.function_name())
+    {
+    }
+    ~Exception() override;
+
+    Exception(const Exception&) = default;
+    Exception& operator=(const Exception&) = default;
+
+    const GString& message() const noexcept { return message_; }
+    const GString& source() const noexcept { return source_; }
+    const GString& targetSite() const noexcept { return targetSite_; }
+    /// One call a line, the latest first; empty where it cannot be had.
+    const GString& stackTrace() const noexcept { return stackTrace_; }
+
+private:
+    Exception(const GString& message, const GString& source, const char* targetSite);
+
+    GString message_;
+    GString source_;
+    GString targetSite_;
+    GString stackTrace_;
+};
+
+} // namespace Pelmora

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "pelmora/api/Exception.h"
+#include "pelmora/api/Vocabulary.h"
+#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/platform/export.h"
+
+#include <chrono>
+#include <exception>
+
+namespace Pelmora
+{
+
+/// A record of one error, warning or debug message, which applications fill and pass on. Plain data
+/// with public fields; every constructor ends by setting `mDateTime` to the current local time.
+/// Without arguments the priority is `PRIO_NONE`; every other constructor but the longest sets
+/// `PRIO_FATAL`, on purpose.
+class PELMORA_API ExceptionData : public ExceptionDataEnums
+{
+public:
+    using DateTime = std::chrono::local_time<std::chrono::milliseconds>;
+
+    GString mSource;     ///< the application or object that raised the error
+    GString mTargetSite; ///< the function in which it arose
+    GString mMessage;
+    GString mStackTrace;
+    DateTime mDateTime; ///< when the record was made
+    prio_enum mPriority = prio_enum::PRIO_NONE;
+    type_enum mType = type_enum::TYPE_EXCEPTION;
+    GString mDestination; ///< where the report is to go
+    GString mParameters;  ///< anything more
+
+    ExceptionData();
+    /// Of an `Exception` source, site, message and stack; of any other its message, in UTF-8 or, if
+    /// it is not that, in the ANSI code page.
+    explicit ExceptionData(const std::exception& aException);
+    explicit ExceptionData(const GString& aMsg);
+    ExceptionData(const GString& aMsg, const GString& aSource, const GString& aStackTrace,
+                  const GString& aTargetSite);
+    /// Mind the order at the end: parameters, type, destination.
+    ExceptionData(const GString& aMsg, const GString& aSource, const GString& aStackTrace,
+                  const GString& aTargetSite, prio_enum aPrio, const GString& aParameters,
+                  type_enum aType, const GString& aDestination);
+};
+
+} // namespace Pelmora

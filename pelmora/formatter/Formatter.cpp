@@ -1,0 +1,179 @@
+#include "pelmora/formatter/Formatter.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace Pelmora::Native::Formatter
+{
+namespace
+{
+
+// One pass gives what five passes, one for each character with the ampersand first, or last for
+// unescaping, would give: no entity contains another's character but the ampersand that opens it.
+
+struct Entity {
+    char character;
+    std::string_view text;
+};
+
+constexpr std::array<Entity, 5> entities = {{
+    {'&', "&amp;"},
+    {'>', "&gt;"},
+    {'"', "&quot;"},
+    {'\'', "&apos;"},
+    {'<', "&lt;"},
+}};
+
+/// The entity's number for each of the first 64 characters, among which all five are; 5 for none.
+constexpr std::array<std::uint8_t, 64> entityNumbers = [] {
+    std::array<std::uint8_t, 64> numbers{};
+    numbers.fill(entities.size());
+    for (std::size_t i = 0; i < entities.size(); ++i)
+        numbers[static_cast<std::size_t>(entities[i].character)] = static_cast<std::uint8_t>(i);
+    return numbers;
+}();
+
+template <class Char>
+const Entity* entityOf(Char character)
+{
+    const auto value = static_cast<std::uint32_t>(std::make_unsigned_t<Char>(character));
+    const std::size_t number =
+        value < entityNumbers.size() ? entityNumbers[value] : entities.size();
+    return number < entities.size() ? &entities[number] : nullptr;
+}
+
+constexpr std::size_t blockLength = 32;
+
+/// Whether none of the next `blockLength` characters has an entity; without branches, so that wide
+/// registers test many at once.
+template <class Char>
+bool isCleanBlock(const Char* text)
+{
+    Char found = 0;
+    for (std::size_t i = 0; i < blockLength; ++i) {
+        const Char c = text[i];
+        // 0x26 and 0x27, 0x3C and 0x3E differ in one bit each.
+        const bool special = (c | 1) == 0x27 || (c | 2) == 0x3E || c == 0x22;
+        found = static_cast<Char>(found | static_cast<Char>(special));
+    }
+    return found == 0;
+}
+
+/// The length of the text's start that has no character to escape.
+template <class Char>
+std::size_t cleanLength(std::basic_string_view<Char> text)
+{
+    std::size_t length = 0;
+    while (text.size() - length >= blockLength && isCleanBlock(text.data() + length))
+        length += blockLength;
+    while (length < text.size() && entityOf(text[length]) == nullptr)
+        ++length;
+    return length;
+}
+
+template <class Char>
+std::basic_string<Char> escaped(std::basic_string_view<Char> text)
+{
+    std::size_t clean = cleanLength(text);
+    if (clean == text.size())
+        return std::basic_string<Char>(text);
+
+    std::size_t length = clean;
+    for (const Char character : text.substr(clean)) {
+        const Entity* entity = entityOf(character);
+        length += entity == nullptr ? 1 : entity->text.size();
+    }
+    std::basic_string<Char> result(length, Char(0));
+    Char* out = std::copy_n(text.data(), clean, result.data());
+    for (const Char character : text.substr(clean)) {
+        const Entity* entity = entityOf(character);
+        if (entity == nullptr)
+            *out++ = character;
+        else
+            out = std::copy(entity->text.begin(), entity->text.end(), out);
+    }
+    return result;
+}
+
+/// The entity that stands at the start of `text`, which begins with an ampersand.
+template <class Char>
+const Entity* entityAt(std::basic_string_view<Char> text)
+{
+    for (const Entity& entity : entities)
+        if (text.size() >= entity.text.size() &&
+            std::equal(entity.text.begin(), entity.text.end(), text.begin()))
+            return &entity;
+    return nullptr;
+}
+
+template <class Char>
+std::basic_string<Char> unescaped(std::basic_string_view<Char> text)
+{
+    std::basic_string<Char> result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const std::size_t ampersand = std::min(text.find(Char('&')), text.size());
+        result.append(text.substr(0, ampersand));
+        text.remove_prefix(ampersand);
+        if (text.empty())
+            break;
+        const Entity* entity = entityAt(text);
+        result += entity == nullptr ? Char('&') : static_cast<Char>(entity->character);
+        text.remove_prefix(entity == nullptr ? 1 : entity->text.size());
+    }
+    return result;
+}
+
+template <class Char>
+std::basic_string<Char> replaced(std::basic_string_view<Char> text,
+                                 std::basic_string_view<Char> from, std::basic_string_view<Char> to)
+{
+    constexpr std::size_t nowhere = std::basic_string_view<Char>::npos;
+    std::size_t found = from.empty() ? nowhere : text.find(from);
+    if (found == nowhere)
+        return std::basic_string<Char>(text);
+    std::basic_string<Char> result;
+    result.reserve(text.size() + (to.size() > from.size() ? 2 * (to.size() - from.size()) : 0));
+    std::size_t position = 0;
+    for (; found != nowhere; found = text.find(from, position)) {
+        result.append(text.substr(position, found - position)).append(to);
+        position = found + from.size();
+    }
+    return result.append(text.substr(position));
+}
+
+} // namespace
+
+std::string escape(std::string_view text)
+{
+    return escaped(text);
+}
+
+WideString escape(WideStringView text)
+{
+    return escaped(text);
+}
+
+std::string unescape(std::string_view text)
+{
+    return unescaped(text);
+}
+
+WideString unescape(WideStringView text)
+{
+    return unescaped(text);
+}
+
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to)
+{
+    return replaced(text, from, to);
+}
+
+WideString replaceAll(WideStringView text, WideStringView from, WideStringView to)
+{
+    return replaced(text, from, to);
+}
+
+} // namespace Pelmora::Native::Formatter

@@ -1,0 +1,233 @@
+#include "pelmora/gettext/Catalogue.h"
+
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <stdexcept>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+constexpr std::uint32_t magic = 0x950412de;
+constexpr std::uint32_t swappedMagic = 0xde120495;
+constexpr std::size_t smallestFile = 29;
+constexpr std::uint32_t smallestHashTable = 3;
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+
+/// The whole file; nothing when it cannot be read.
+std::optional<std::string> fileContent(const std::string& path)
+{
+    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
+    if (file == nullptr || std::fseek(file.get(), 0, SEEK_END) != 0)
+        return std::nullopt;
+    const long size = std::ftell(file.get());
+    std::rewind(file.get());
+    if (size == -1)
+        return std::nullopt;
+    try {
+        std::string content(static_cast<std::size_t>(size), '\0');
+        content.resize(std::fread(content.data(), 1, content.size(), file.get()));
+        return content;
+    } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) { // a folder has the largest size that there is
+    }
+    return std::nullopt;
+}
+
+bool hasCatalogueEnding(std::string_view path)
+{
+    if (path.size() <= 3)
+        return false;
+    const std::string_view ending = path.substr(path.size() - 3);
+    return ending[0] == '.' && (ending[1] | 0x20) == 'm' && (ending[2] | 0x20) == 'o';
+}
+
+std::uint32_t byteSwapped(std::uint32_t value)
+{
+    return value >> 24 | (value >> 8 & 0xFF00U) | (value << 8 & 0xFF0000U) | value << 24;
+}
+
+/// The string hash of GNU gettext, P. J. Weinberger's.
+std::uint32_t hashOf(std::string_view text)
+{
+    std::uint32_t hash = 0;
+    for (const char character : text) {
+        hash = (hash << 4) + static_cast<unsigned char>(character);
+        const std::uint32_t overflow = hash & 0xF0000000U;
+        if (overflow != 0) {
+            hash ^= overflow >> 24;
+            hash ^= overflow;
+        }
+    }
+    return hash;
+}
+
+void appendEscaped(std::string& po, std::string_view text)
+{
+    for (const char character : text) {
+        switch (character) {
+        case '\\':
+            po += "\\\\";
+            break;
+        case '"':
+            po += "\\\"";
+            break;
+        case '\n':
+            po += "\\n";
+            break;
+        case '\t':
+            po += "\\t";
+            break;
+        default:
+            po += character;
+        }
+    }
+}
+
+} // namespace
+
+bool Catalogue::load(std::string path)
+{
+    if (!hasCatalogueEnding(path))
+        path += ".mo";
+    *this = Catalogue();
+    std::optional<std::string> content = fileContent(path);
+    if (!content || content->size() < smallestFile)
+        return false;
+    data_ = *std::move(content);
+    if (readHeader())
+        return true;
+    *this = Catalogue();
+    return false;
+}
+
+bool Catalogue::readHeader() noexcept
+{
+    const std::optional<std::uint32_t> first = numberAt(0);
+    swapped_ = first == swappedMagic;
+    if (!swapped_ && first != magic)
+        return false;
+    count_ = *numberAt(8);
+    identifiers_ = *numberAt(12);
+    translations_ = *numberAt(16);
+    hashSize_ = *numberAt(20);
+    hashTable_ = *numberAt(24);
+    return true;
+}
+
+GString Catalogue::translate(std::string_view msgid) const
+{
+    return GString(lookup(msgid));
+}
+
+std::string_view Catalogue::lookup(std::string_view msgid) const noexcept
+{
+    const std::optional<std::uint32_t> index = indexOf(msgid.substr(0, msgid.find('\0')));
+    return index ? stringAt(translations_, *index).value_or(std::string_view())
+                 : std::string_view();
+}
+
+std::string Catalogue::to_po() const
+{
+    std::string po;
+    // Strings of a sound file do not overlap: together they are no longer than the file. A hostile
+    // one could name the same long string in every slot.
+    std::size_t budget = data_.size();
+    const std::uint32_t slots = hashSize_ >= smallestHashTable ? hashSize_ : count_;
+    for (std::uint32_t slot = 0; slot < slots; ++slot) {
+        const std::optional<std::uint32_t> entry = numberAt(hashTable_ + std::uint64_t(slot) * 4);
+        if (!entry)
+            break;
+        if (*entry == 0 || *entry > count_)
+            continue;
+        const auto identifier = stringAt(identifiers_, *entry - 1);
+        const auto translation = stringAt(translations_, *entry - 1);
+        if (!identifier || !translation)
+            continue;
+        if (identifier->size() + translation->size() > budget)
+            break;
+        budget -= identifier->size() + translation->size();
+        po += "msgid\t\"";
+        appendEscaped(po, *identifier);
+        po += "\"\r\nmsgstr\t\"";
+        appendEscaped(po, *translation);
+        po += "\"\r\n\r\n";
+    }
+    return po;
+}
+
+/// The number in the file's byte order; nothing outside the file.
+std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noexcept
+{
+    std::uint32_t value = 0;
+    if (data_.size() < sizeof value || offset > data_.size() - sizeof value)
+        return std::nullopt;
+    std::memcpy(&value, data_.data() + offset, sizeof value);
+    return swapped_ ? byteSwapped(value) : value;
+}
+
+/// The string of a descriptor, up to its NUL; nothing where the file ends before.
+std::optional<std::string_view> Catalogue::stringAt(std::uint64_t table,
+                                                    std::uint32_t index) const noexcept
+{
+    constexpr std::uint64_t descriptorSize = 8;
+    constexpr std::uint64_t offsetInDescriptor = 4;
+    const auto offset = numberAt(table + index * descriptorSize + offsetInDescriptor);
+    if (!offset || *offset >= data_.size())
+        return std::nullopt;
+    const std::string_view rest = std::string_view(data_).substr(*offset);
+    const std::size_t length = rest.find('\0');
+    if (length == std::string_view::npos)
+        return std::nullopt;
+    return rest.substr(0, length);
+}
+
+std::optional<std::uint32_t> Catalogue::indexOf(std::string_view msgid) const noexcept
+{
+    return hashSize_ < smallestHashTable ? searchSorted(msgid) : searchHashed(msgid);
+}
+
+std::optional<std::uint32_t> Catalogue::searchSorted(std::string_view msgid) const noexcept
+{
+    std::uint64_t low = 0;
+    std::uint64_t high = count_;
+    while (low < high) {
+        const std::uint64_t middle = (low + high) / 2;
+        const auto identifier = stringAt(identifiers_, static_cast<std::uint32_t>(middle));
+        if (!identifier)
+            return std::nullopt;
+        const int order = msgid.compare(*identifier);
+        if (order == 0)
+            return static_cast<std::uint32_t>(middle);
+        if (order < 0)
+            high = middle;
+        else
+            low = middle + 1;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint32_t> Catalogue::searchHashed(std::string_view msgid) const noexcept
+{
+    const std::uint32_t hash = hashOf(msgid);
+    const std::uint32_t step = 1 + hash % (hashSize_ - 2);
+    std::uint32_t slot = hash % hashSize_;
+    // A table without an empty slot would otherwise be searched for ever.
+    for (std::uint32_t tried = 0; tried < hashSize_; ++tried) {
+        const auto entry = numberAt(hashTable_ + std::uint64_t(slot) * 4);
+        if (!entry || *entry == 0)
+            return std::nullopt;
+        if (*entry <= count_ && stringAt(identifiers_, *entry - 1) == msgid)
+            return *entry - 1;
+        slot = slot < hashSize_ - step ? slot + step : slot + step - hashSize_;
+    }
+    return std::nullopt;
+}
+
+} // namespace Pelmora::Native

@@ -1,0 +1,93 @@
+#include "pelmora/log/osVersion.h"
+
+#include "pelmora/log/LogStream.h"
+
+#include <optional>
+#include <variant>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+using Platform::OsVersion;
+
+constexpr std::uint32_t platformWindowsNt = 2;
+
+/// Whether a version stands in a range of the table, both ends included.
+struct Range {
+    std::uint32_t first;
+    std::uint32_t last;
+
+    bool holds(std::uint32_t value) const { return value >= first && value <= last; }
+};
+
+constexpr Range any = {0, 0xFFFFFFFF};
+constexpr Range exactly(std::uint32_t value)
+{
+    return {value, value};
+}
+
+struct NameRow {
+    std::uint32_t platform;
+    Range major;
+    Range minor;
+    const char* name;
+    bool appendsNumbers;
+    const char* revisions; ///< second characters of the service pack that stand for a revision
+    const char* revisionName;
+};
+
+/// The first row that fits gives the name.
+constexpr NameRow names[] = {
+    {0, any, any, "Win32s", false, "", ""},
+    {1, exactly(4), exactly(0), "Windows 95", false, "CB", " OSR2"},
+    {1, exactly(4), exactly(10), "Windows 98", false, "A", " SE"},
+    {1, exactly(4), exactly(90), "Windows ME", false, "", ""},
+    {1, any, any, "Windows 9x ", true, "", ""},
+    {2, exactly(6), any, "Windows Vista", false, "", ""},
+    {2, exactly(5), exactly(2), "Windows Server 2003", false, "", ""},
+    {2, exactly(5), exactly(1), "Windows XP", false, "", ""},
+    {2, exactly(5), exactly(0), "Windows 2000", false, "", ""},
+    {2, {0, 4}, any, "Windows NT ", true, "", ""},
+    {2, any, any, "Windows ", true, "", ""},
+};
+
+std::string nameOf(const OsVersion& version)
+{
+    for (const NameRow& row : names) {
+        if (row.platform != version.platform || !row.major.holds(version.major) ||
+            !row.minor.holds(version.minor))
+            continue;
+        std::string name = row.name;
+        if (row.appendsNumbers)
+            name += std::to_string(version.major) + "." + std::to_string(version.minor);
+        const char second = version.servicePack.size() < 2 ? '\0' : version.servicePack[1];
+        if (second != '\0' && std::string_view(row.revisions).find(second) != std::string::npos)
+            name += row.revisionName;
+        return name;
+    }
+    return "Platform " + std::to_string(version.platform);
+}
+
+} // namespace
+
+std::string osDescription(const OsVersion& version)
+{
+    std::string text = nameOf(version);
+    if (version.platform == platformWindowsNt)
+        text +=
+            " " + version.servicePack + " (Build " + std::to_string(version.build & 0xFFFFU) + ")";
+    return text;
+}
+
+void write_os_version(LogStream& log)
+{
+    const Platform::SystemVersion version = Platform::systemVersion();
+    if (const auto* record = std::get_if<OsVersion>(&version))
+        log << osDescription(*record) << endl;
+    else if (const auto* line = std::get_if<std::string>(&version))
+        log << *line << endl;
+}
+
+} // namespace Pelmora::Native

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <source_location>
+
+namespace Pelmora::Native::Platform
+{
+
+#if defined(__cpp_lib_source_location)
+
+using SourceLocation = std::source_location;
+
+#else
+
+/// What the library uses of std::source_location, for clang before version 16, which has none with
+/// GCC's library.
+class SourceLocation
+{
+public:
+    static constexpr SourceLocation current(const char* function = __builtin_FUNCTION()) noexcept
+    {
+        return SourceLocation(function);
+    }
+    constexpr const char* function_name() const noexcept { return function_; }
+
+private:
+    explicit constexpr SourceLocation(const char* function) noexcept : function_(function) {}
+
+    const char* function_;
+};
+
+#endif
+
+} // namespace Pelmora::Native::Platform

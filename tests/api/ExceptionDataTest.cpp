@@ -1,0 +1,115 @@
+#include "pelmora/pelmora.h"
+
+#include "pelmora/gettext/TextLocale.h"
+#include "tests/printing.h"
+
+#include <cstdlib>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora
+{
+namespace
+{
+
+using Prio = ExceptionData::prio_enum;
+using Type = ExceptionData::type_enum;
+
+void raise()
+{
+    throw Exception(u"no \u00E9lan", u"ward");
+}
+
+TEST(ExceptionData, WhatEachConstructorSets)
+{
+    const GString all = u"msg|src|trace|site|params|dest";
+    const auto joined = [](const ExceptionData& data) {
+        GString text = data.mMessage;
+        for (const GString& field : {data.mSource, data.mStackTrace, data.mTargetSite,
+                                     data.mParameters, data.mDestination})
+            text += u"|" + field;
+        return text;
+    };
+    const struct {
+        ExceptionData data;
+        GString fields;
+        Prio priority;
+        Type type;
+    } rows[] = {
+        {ExceptionData(), u"|||||", Prio::PRIO_NONE, Type::TYPE_EXCEPTION},
+        {ExceptionData(u"msg"), u"msg|||||", Prio::PRIO_FATAL, Type::TYPE_EXCEPTION},
+        {ExceptionData(u"msg", u"src", u"trace", u"site"), u"msg|src|trace|site||",
+         Prio::PRIO_FATAL, Type::TYPE_EXCEPTION},
+        {ExceptionData(u"msg", u"src", u"trace", u"site", Prio::PRIO_NOTE, u"params",
+                       Type::TYPE_DEBUGMESSAGE, u"dest"),
+         all, Prio::PRIO_NOTE, Type::TYPE_DEBUGMESSAGE},
+        {ExceptionData(std::runtime_error("caf\xC3\xA9")), u"caf\u00E9|||||", Prio::PRIO_FATAL,
+         Type::TYPE_EXCEPTION},
+        {ExceptionData(std::runtime_error("caf\xE9")), u"caf\u00E9|||||", Prio::PRIO_FATAL,
+         Type::TYPE_EXCEPTION},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(joined(row.data), row.fields);
+        EXPECT_EQ(row.data.mPriority, row.priority);
+        EXPECT_EQ(row.data.mType, row.type);
+        // The local clock is at most 14 hours from the universal one.
+        const auto difference = row.data.mDateTime.time_since_epoch() -
+                                std::chrono::system_clock::now().time_since_epoch();
+        EXPECT_LE(std::chrono::abs(difference), std::chrono::hours(14));
+    }
+}
+
+TEST(ExceptionData, ReportsWhereAnExceptionCameFrom)
+{
+    try {
+        raise();
+        ADD_FAILURE();
+    } catch (const std::exception& error) {
+        const ExceptionData data(error);
+        EXPECT_EQ(data.mMessage, u"no \u00E9lan");
+        EXPECT_EQ(data.mSource, u"ward");
+        EXPECT_NE(data.mTargetSite.to_utf8().find("raise"), std::string::npos);
+        EXPECT_FALSE(data.mStackTrace.empty());
+        EXPECT_STREQ(error.what(), "no \xC3\xA9lan");
+    }
+}
+
+TEST(AliveDataStorage, IsOneObject)
+{
+    EXPECT_FALSE(AliveDataStorage::get()->mUpdated);
+    EXPECT_EQ(AliveDataStorage::get()->mMasterClientId, u"");
+    AliveDataStorage::get()->mServerUserId = u"nurse";
+    EXPECT_EQ(AliveDataStorage::get()->mServerUserId, u"nurse");
+}
+
+TEST(Init, TakesALanguageOrThatOfTheCulture)
+{
+    Init::init(u"de");
+    EXPECT_EQ(Native::gettext_locale.language(), "de");
+    Init::init();
+    EXPECT_TRUE(Native::gettext_locale.initialised());
+#ifndef _WIN32
+    const struct {
+        const char *all, *messages, *lang, *culture;
+    } rows[] = {
+        {"", "", "de_DE.UTF-8", "de-DE"},
+        {"", "fr_CH", "de_DE", "fr-CH"},
+        {"ja", "fr_CH", "de_DE", "ja"},
+        {"C.UTF-8", "", "de_DE", ""},
+        {"POSIX", "", "", ""},
+        {"", "", "", ""},
+        {"sv_SE@euro", "", "", "sv-SE"},
+    };
+    for (const auto& row : rows) {
+        setenv("LC_ALL", row.all, 1);
+        setenv("LC_MESSAGES", row.messages, 1);
+        setenv("LANG", row.lang, 1);
+        Init::init();
+        EXPECT_EQ(Native::gettext_locale.path(), row.culture);
+    }
+#endif
+}
+
+} // namespace
+} // namespace Pelmora

@@ -1,0 +1,146 @@
+#include "pelmora/gettext/Catalogue.h"
+
+#include "tests/printing.h"
+
+#include <cstring>
+#include <fstream>
+#include <iterator>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+std::string content(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// A catalogue file of the given bytes that exists as long as this object.
+class TemporaryCatalogue
+{
+public:
+    TemporaryCatalogue() = default;
+    TemporaryCatalogue(const TemporaryCatalogue&) = delete;
+    TemporaryCatalogue& operator=(const TemporaryCatalogue&) = delete;
+    ~TemporaryCatalogue() { std::remove(path_.c_str()); }
+
+    bool load(Catalogue& catalogue, std::string_view bytes)
+    {
+        std::ofstream(path_, std::ios::binary | std::ios::trunc) << bytes;
+        return catalogue.load(path_);
+    }
+
+private:
+    std::string path_ = CATALOGUES "temporary.mo";
+};
+
+TEST(Catalogue, EveryFormGivesTheSameTexts)
+{
+    for (const std::string form : {"little", "big", "nohash"}) {
+        Catalogue catalogue;
+        ASSERT_TRUE(catalogue.load(CATALOGUES "small." + form));
+        EXPECT_EQ(catalogue.lookup("Dose"), "Dosis") << form;
+        EXPECT_EQ(catalogue.lookup(std::string_view("Dose\0x", 6)), "Dosis") << form;
+        EXPECT_EQ(catalogue.lookup("a"), "ein") << form;
+        EXPECT_EQ(catalogue.lookup("ab"), "zwei") << form;
+        EXPECT_EQ(catalogue.lookup("abc"), "") << form;
+        EXPECT_EQ(catalogue.lookup("one drug"), "ein Mittel") << form;
+        EXPECT_EQ(catalogue.lookup("Caf\xC3\xA9"), "Kaffeehaus") << form;
+        EXPECT_EQ(catalogue.translate("Dose"), u"Dosis") << form;
+        EXPECT_EQ(catalogue.translate("dose"), u"") << form;
+    }
+}
+
+TEST(Catalogue, FindsWhatMsgunfmtShows)
+{
+    for (const std::string language : {"de", "ja", "es", "ru", "pl"}) {
+        Catalogue catalogue;
+        ASSERT_TRUE(catalogue.load(CATALOGUES "real." + language));
+        const std::string pairs = content(CATALOGUES "real." + language + ".pairs");
+        int count = 0;
+        for (std::size_t at = 0; at < pairs.size(); ++count) {
+            const std::string msgid = pairs.c_str() + at;
+            at += msgid.size() + 1;
+            const std::string msgstr = pairs.c_str() + at;
+            at += msgstr.size() + 1;
+            ASSERT_EQ(catalogue.lookup(msgid), msgstr) << language << ": " << msgid;
+        }
+        EXPECT_GT(count, 20) << language;
+    }
+}
+
+TEST(Catalogue, PoText)
+{
+    Catalogue catalogue;
+    ASSERT_TRUE(catalogue.load(CATALOGUES "small.big.mo"));
+    const std::string po = catalogue.to_po();
+    EXPECT_NE(po.find("msgid\t\"say \\\"hi\\\"\\nnow\"\r\n"
+                      "msgstr\t\"sag\\t\\\\\\\"hallo\\\"\\njetzt\"\r\n\r\n"),
+              std::string::npos)
+        << po;
+    EXPECT_EQ(std::count(po.begin(), po.end(), '\r'), 3 * 7); // an entry has three line ends
+}
+
+TEST(Catalogue, FilesThatAreNoCatalogues)
+{
+    const std::string good = content(CATALOGUES "small.little.mo");
+    TemporaryCatalogue file;
+    Catalogue catalogue;
+    ASSERT_TRUE(file.load(catalogue, good));
+    EXPECT_FALSE(file.load(catalogue, good.substr(0, 28)));
+    EXPECT_EQ(catalogue.lookup("Dose"), ""); // what was loaded before is gone
+    EXPECT_TRUE(file.load(catalogue, good.substr(0, 29)));
+    EXPECT_EQ(catalogue.lookup("Dose"), "");
+    EXPECT_FALSE(file.load(catalogue, "x" + good));
+    EXPECT_FALSE(file.load(catalogue, ""));
+    EXPECT_FALSE(catalogue.load(CATALOGUES "no such file"));
+    EXPECT_FALSE(catalogue.load("."));
+    EXPECT_EQ(catalogue.to_po(), "");
+}
+
+TEST(Catalogue, HostileFilesHarmNothing)
+{
+    TemporaryCatalogue file;
+    for (const std::string form : {"little", "big", "nohash"}) {
+        const std::string good = content(CATALOGUES "small." + form + ".mo");
+        const auto size = static_cast<std::uint32_t>(good.size());
+        const std::uint32_t values[] = {0,        1,        3,          7,          8,
+                                        size - 4, size - 1, 0x7FFFFFFF, 0xFFFFFFFF, 0xFFFFFFFE};
+        // Every number of header, descriptors and hash table is replaced, in either byte order.
+        for (std::size_t at = 4; at + 4 <= std::min<std::size_t>(good.size(), 250); at += 4) {
+            for (const std::uint32_t value : values) {
+                std::string bad = good;
+                std::memcpy(bad.data() + at, &value, sizeof value);
+                if (form == "big")
+                    std::reverse(bad.begin() + static_cast<std::ptrdiff_t>(at),
+                                 bad.begin() + static_cast<std::ptrdiff_t>(at) + 4);
+                Catalogue catalogue;
+                ASSERT_TRUE(file.load(catalogue, bad));
+                for (const char* msgid : {"Dose", "a", "ab", "zz", ""})
+                    catalogue.lookup(msgid);
+                EXPECT_LE(catalogue.to_po().size(), 8 * good.size());
+            }
+        }
+    }
+    // A full hash table of slots beyond the strings, and a last string without its NUL.
+    std::string full = content(CATALOGUES "small.little.mo");
+    std::uint32_t hashTable = 0;
+    std::uint32_t slots = 0;
+    std::memcpy(&slots, full.data() + 20, 4);
+    std::memcpy(&hashTable, full.data() + 24, 4);
+    std::fill_n(full.begin() + hashTable, 4 * slots, '\x7F');
+    Catalogue catalogue;
+    ASSERT_TRUE(file.load(catalogue, full));
+    EXPECT_EQ(catalogue.lookup("Dose"), "");
+    std::string unterminated = content(CATALOGUES "small.nohash.mo");
+    unterminated.pop_back();
+    ASSERT_TRUE(file.load(catalogue, unterminated));
+    EXPECT_EQ(catalogue.lookup("say \"hi\"\nnow"), "");
+}
+
+} // namespace
+} // namespace Pelmora::Native

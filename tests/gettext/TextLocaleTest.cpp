@@ -1,0 +1,116 @@
+#include "pelmora/gettext/TextLocale.h"
+
+#include "tests/printing.h"
+
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+GString echo(std::string msgid)
+{
+    return msgid == "silent" ? GString() : u"<" + GString(msgid) + u">";
+}
+
+TEST(TextLocale, LanguageOfAPath)
+{
+    const struct {
+        const char *path, *language;
+    } rows[] = {
+        {"", ""},        {"d", ""},        {"de", "de"},           {"de-DE", "DE"},
+        {"ab.MO", "ab"}, {"xde.mo", "de"}, {"C:\\l\\de.mo", "de"}, {"lang/de.mox", "ox"},
+    };
+    TextLocale locale;
+    for (const auto& row : rows) {
+        locale.init(row.path);
+        EXPECT_EQ(locale.language(), row.language) << row.path;
+        EXPECT_EQ(locale.catalogue(), nullptr) << row.path;
+    }
+    locale.init(CATALOGUES "small.little.mo");
+    for (const char* path : {".mo", "x.mo"}) {
+        EXPECT_THROW(locale.init(path), std::out_of_range) << path;
+        EXPECT_NE(locale.catalogue(), nullptr) << path;
+    }
+}
+
+TEST(TextLocale, PropertiesOfTheLanguage)
+{
+    const struct {
+        const char* language;
+        unsigned int codePage;
+        const char* charset;
+        unsigned int identifier;
+    } rows[] = {
+        {"ja", 932, "Shift_JIS", 0x411},   {"ko", 949, "ISO-2022-KR", 0x412},
+        {"zh", 936, "gb2312", 0x4},        {"en", 1252, "iso-8859-1", 0x409},
+        {"us", 1252, "iso-8859-1", 0x409}, {"uk", 1252, "iso-8859-1", 0x809},
+        {"da", 1252, "iso-8859-1", 0x406}, {"de", 1252, "iso-8859-1", 0x407},
+        {"es", 1252, "iso-8859-1", 0x40a}, {"fr", 1252, "iso-8859-1", 0x40c},
+        {"hi", 1252, "iso-8859-1", 0x439}, {"it", 1252, "iso-8859-1", 0x410},
+        {"kn", 1252, "iso-8859-1", 0x44b}, {"ml", 1252, "iso-8859-1", 0x44c},
+        {"nl", 1252, "iso-8859-1", 0x413}, {"no", 1252, "iso-8859-1", 0x414},
+        {"pl", 1252, "iso-8859-1", 0x415}, {"pt", 1252, "iso-8859-1", 0x416},
+        {"ru", 1252, "iso-8859-1", 0x419}, {"fi", 1252, "iso-8859-1", 0x40b},
+        {"sv", 1252, "iso-8859-1", 0x41d}, {"ta", 1252, "iso-8859-1", 0x449},
+        {"JA", 1252, "iso-8859-1", 0x400}, {"", 1252, "iso-8859-1", 0x400},
+    };
+    TextLocale locale;
+    for (const auto& row : rows) {
+        locale.init(row.language);
+        EXPECT_EQ(locale.code_page(), row.codePage) << row.language;
+        EXPECT_EQ(locale.uses_non_latin_code_page(), row.codePage != 1252) << row.language;
+        EXPECT_STREQ(locale.charset(), row.charset) << row.language;
+        EXPECT_EQ(locale.lang_id(), row.identifier) << row.language;
+    }
+}
+
+TEST(TextLocale, TranslatorIsTheOneSource)
+{
+    TextLocale locale;
+    EXPECT_EQ(locale.translate("caf\xE9", 1252), u"caf\u00E9");
+    locale.init(CATALOGUES "small.little.mo");
+    EXPECT_EQ(locale.translate("Dose", 1252), u"Dose"); // the catalogue is not searched
+    locale.set_translator(echo);
+    EXPECT_EQ(locale.translate("Dose", 1252), u"<Dose>");
+    EXPECT_EQ(locale.translate("silent", 1252), u"silent");
+    EXPECT_EQ(locale.translate("", 1252), u"");
+    locale.init("");
+    EXPECT_EQ(locale.tr("Dose"), u"<Dose>"); // the translator outlives the language
+}
+
+TEST(TextLocale, TagsAreRemovedBeforeTheLookUp)
+{
+    TextLocale locale;
+    locale.set_translator(echo);
+    const struct {
+        const char* text;
+        GString translated;
+    } rows[] = {
+        {"r|mg/dL", u"<mg/dL>"}, {"ab|x", u"<x>"},          {"a1c|x", u"<x>"},
+        {"abcd|x", u"<abcd|x>"}, {"1|x", u"<1|x>"},         {"a-|x", u"<a-|x>"},
+        {"|x", u"<|x>"},         {"r|a|b", u"<a|b>"},       {"r|", u""},
+        {nullptr, u""},          {"\xE9|x", u"<\u00E9|x>"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(locale.tr(row.text), row.translated) << (row.text ? row.text : "null");
+}
+
+TEST(TextLocale, TranslatorFromTheCatalogueReadsItsEncoding)
+{
+    gettext_locale.set_translator(translate_from_catalogue);
+    gettext_locale.init(CATALOGUES "small.big.mo");
+    EXPECT_EQ(gettext_locale.tr("c|Dose"), u"Dosis");
+    EXPECT_EQ(gettext_locale.tr("Unknown"), u"Unknown");
+    gettext_locale.init(CATALOGUES "real.ja.mo"); // UTF-8
+    const GString japanese = gettext_locale.tr("memory exhausted");
+    EXPECT_GT(japanese[0], 0x3000) << testing::PrintToString(japanese);
+    gettext_locale.init("");
+    gettext_locale.set_translator(nullptr);
+}
+
+} // namespace
+} // namespace Pelmora::Native

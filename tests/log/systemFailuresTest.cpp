@@ -1,0 +1,70 @@
+// The import pointers of two functions are defined here, so that the library calls these instead.
+
+#include "pelmora/log/osVersion.h"
+#include "pelmora/platform/osVersion.h"
+#include "pelmora/platform/temporaryFolder.h"
+
+#include <cstdlib>
+#include <set>
+#include <variant>
+
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+namespace
+{
+
+DWORD WINAPI failingGetTempPath(DWORD, char*)
+{
+    return 0;
+}
+
+std::set<DWORD> acceptedRecordSizes;
+
+BOOL WINAPI choosyGetVersion(OSVERSIONINFOA* record)
+{
+    record->dwMajorVersion = record->dwOSVersionInfoSize;
+    return acceptedRecordSizes.count(record->dwOSVersionInfoSize) > 0 ? TRUE : FALSE;
+}
+
+} // namespace
+
+extern "C" {
+void* __imp_GetTempPathA = reinterpret_cast<void*>(failingGetTempPath);
+void* __imp_GetVersionExA = reinterpret_cast<void*>(choosyGetVersion);
+}
+
+namespace Pelmora::Native::Platform
+{
+namespace
+{
+
+TEST(SystemFailures, TemporaryFolderFallsBackToTheEnvironment)
+{
+    const struct {
+        const char *temp, *tmp, *folder;
+    } rows[] = {
+        {"TEMP=C:\\T", "TMP=C:\\U", "C:\\T\\"},
+        {"TEMP=", "TMP=C:\\U", "C:\\U\\"},
+        {"TEMP=", "TMP=", ".\\"},
+    };
+    for (const auto& row : rows) {
+        _putenv(row.temp);
+        _putenv(row.tmp);
+        EXPECT_EQ(temporaryFolder(), row.folder);
+    }
+}
+
+TEST(SystemFailures, VersionIsAskedWithBothRecords)
+{
+    acceptedRecordSizes = {156, 148};
+    EXPECT_EQ(std::get<OsVersion>(systemVersion()).major, 156U);
+    acceptedRecordSizes = {148};
+    EXPECT_EQ(std::get<OsVersion>(systemVersion()).major, 148U);
+    acceptedRecordSizes = {};
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(systemVersion()));
+}
+
+} // namespace
+} // namespace Pelmora::Native::Platform
