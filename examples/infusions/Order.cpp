@@ -2,10 +2,10 @@
 
 #include "drugNames.h"
 #include "quantity.h"
+#include "translation.h"
 
 #include <algorithm>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace Infusions
@@ -13,6 +13,7 @@ namespace Infusions
 namespace
 {
 
+using Pelmora::GString;
 using Pelmora::Unit;
 using Pelmora::UnitElement;
 using Pelmora::UnitPrefix;
@@ -35,15 +36,34 @@ bool isAbsent(std::string_view field)
     return field.empty() || field == "-";
 }
 
-UnitValue required(const char* name, std::string_view field)
+/// What is said about one field of an order.
+struct FieldTexts {
+    const char* missing;
+    const char* unreadable; ///< with the reason
+};
+
+constexpr FieldTexts doseTexts = {N_("the dose is missing"), N_("the dose cannot be read: %s")};
+constexpr FieldTexts amountTexts = {N_("the amount of drug in the bag is missing"),
+                                    N_("the amount of drug in the bag cannot be read: %s")};
+constexpr FieldTexts volumeTexts = {N_("the volume of the bag is missing"),
+                                    N_("the volume of the bag cannot be read: %s")};
+constexpr FieldTexts weightTexts = {N_("the weight is missing"),
+                                    N_("the weight cannot be read: %s")};
+
+UnitValue readQuantity(const FieldTexts& texts, std::string_view field, Grams grams)
+{
+    try {
+        return quantity(field, grams);
+    } catch (const QuantityError& error) {
+        throw OrderError(GString::format(tr(texts.unreadable), GString::from_utf8(error.what())));
+    }
+}
+
+UnitValue required(const FieldTexts& texts, std::string_view field)
 {
     if (isAbsent(field))
-        throw OrderError(std::string("the ") + name + " is missing");
-    try {
-        return quantity(field);
-    } catch (const QuantityError& error) {
-        throw OrderError(std::string("the ") + name + " cannot be read: " + error.what());
-    }
+        throw OrderError(tr(texts.missing));
+    return readQuantity(texts, field, Grams::ofDrug);
 }
 
 std::optional<UnitValue> patientWeight(std::string_view field)
@@ -52,14 +72,10 @@ std::optional<UnitValue> patientWeight(std::string_view field)
         return std::nullopt;
     const Unit kilogram(
         std::make_shared<UnitElement>(UnitTypeEnum::UNIT_G_PT, UnitPrefix::KILO, 1));
-    try {
-        const UnitValue weight = quantity(field, Grams::ofPatient);
-        if (!weight.unit->compatibleWith(kilogram))
-            throw OrderError("the weight is not in kg");
-        return weight;
-    } catch (const QuantityError& error) {
-        throw OrderError(std::string("the weight cannot be read: ") + error.what());
-    }
+    const UnitValue weight = readQuantity(weightTexts, field, Grams::ofPatient);
+    if (!weight.unit->compatibleWith(kilogram))
+        throw OrderError(tr("the weight is not in kg"));
+    return weight;
 }
 
 std::shared_ptr<Unit> millilitrePerHour()
@@ -76,37 +92,36 @@ Order parseOrder(std::string_view line)
 {
     const std::vector<std::string_view> field = fields(line);
     if (field.size() != 5)
-        throw OrderError("an order has five fields: drug | dose | weight | amount | volume");
+        throw OrderError(tr("an order has five fields: drug, dose, weight, amount and volume"));
     const auto drug = drugOfName(field[0]);
     if (!drug)
-        throw OrderError("'" + std::string(field[0]) + "' is no drug given as an infusion");
-    return {*drug, required("dose", field[1]), patientWeight(field[2]),
-            required("amount of drug in the bag", field[3]),
-            required("volume of the bag", field[4])};
+        throw OrderError(GString::format(tr("'%s' is no drug given as an infusion"), field[0]));
+    return {*drug, required(doseTexts, field[1]), patientWeight(field[2]),
+            required(amountTexts, field[3]), required(volumeTexts, field[4])};
 }
 
 UnitValue concentration(const Order& order)
 {
     if (!order.volume.unit->unitIsVolume())
-        throw OrderError("the volume of the bag is not in mL or L");
+        throw OrderError(tr("the volume of the bag is not in mL or L"));
     return order.amount.div(order.volume);
 }
 
 UnitValue pumpRate(const Order& order)
 {
     if (!order.dose.unit->unitIsRate())
-        throw OrderError("the dose is not per time");
+        throw OrderError(tr("the dose is not per time"));
     const bool isPerWeight = order.dose.unit->unitIsPrPt();
     if (isPerWeight && !order.weight)
-        throw OrderError("the dose is per kg of body weight, and the weight is missing");
+        throw OrderError(tr("the dose is per kg of body weight, and the weight is missing"));
 
     const UnitValue perTime = isPerWeight ? order.dose.mul(*order.weight) : order.dose;
     const UnitValue rate = perTime.div(concentration(order));
     const auto unit = millilitrePerHour();
     if (!rate.unit->compatibleWith(unit))
-        throw OrderError("a dose in " + order.dose.unit->ToString().to_utf8() +
-                         " does not fit a bag with " + order.amount.unit->ToString().to_utf8() +
-                         " of drug");
+        throw OrderError(GString::format(tr("a dose in %s does not fit a bag with %s of drug"),
+                                         order.dose.unit->ToString(),
+                                         order.amount.unit->ToString()));
     return rate.convertTo(unit);
 }
 

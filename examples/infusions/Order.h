@@ -13,7 +13,7 @@ namespace Infusions
 class OrderError : public std::runtime_error
 {
 public:
-    using std::runtime_error::runtime_error;
+    explicit OrderError(const Pelmora::GString& reason) : std::runtime_error(reason.to_utf8()) {}
 };
 
 /// An infusion as a physician orders it: so much of a drug in a time, out of a bag.

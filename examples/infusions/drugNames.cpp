@@ -1,5 +1,7 @@
 #include "drugNames.h"
 
+#include "translation.h"
+
 namespace Infusions
 {
 namespace
@@ -10,30 +12,30 @@ using Pelmora::DrugEnum;
 struct DrugName {
     DrugEnum drug;
     std::string_view vocabularyName;
-    const char16_t* displayName;
+    const char* displayName;
 };
 
 constexpr DrugName drugNames[] = {
-    {DrugEnum::AMIODARONE, "AMIODARONE", u"Amiodarone"},
-    {DrugEnum::DILTIAZEM, "DILTIAZEM", u"Diltiazem"},
-    {DrugEnum::DOBUTAMINE, "DOBUTAMINE", u"Dobutamine"},
-    {DrugEnum::DOPAMINE, "DOPAMINE", u"Dopamine"},
-    {DrugEnum::EPINEPHRINE, "EPINEPHRINE", u"Epinephrine"},
-    {DrugEnum::ESMOLOL, "ESMOLOL", u"Esmolol"},
-    {DrugEnum::FENTANYL, "FENTANYL", u"Fentanyl"},
-    {DrugEnum::GTN, "GTN", u"Glyceryl trinitrate"},
-    {DrugEnum::HEPARIN, "HEPARIN", u"Heparin"},
-    {DrugEnum::INSULIN, "INSULIN", u"Insulin"},
-    {DrugEnum::KETAMIN, "KETAMIN", u"Ketamine"},
-    {DrugEnum::LIDOCAINE, "LIDOCAINE", u"Lidocaine"},
-    {DrugEnum::MAGNESIUM, "MAGNESIUM", u"Magnesium"},
-    {DrugEnum::MIDAZOLAM, "MIDAZOLAM", u"Midazolam"},
-    {DrugEnum::MILRINONE, "MILRINONE", u"Milrinone"},
-    {DrugEnum::MORPHINE, "MORPHINE", u"Morphine"},
-    {DrugEnum::NOREPINEPHRINE, "NOREPINEPHRINE", u"Norepinephrine"},
-    {DrugEnum::PROPOFOL, "PROPOFOL", u"Propofol"},
-    {DrugEnum::SODIUM_NITROPRUSSIDE, "SODIUM_NITROPRUSSIDE", u"Sodium nitroprusside"},
-    {DrugEnum::VASOPRESSIN, "VASOPRESSIN", u"Vasopressin"},
+    {DrugEnum::AMIODARONE, "AMIODARONE", N_("Amiodarone")},
+    {DrugEnum::DILTIAZEM, "DILTIAZEM", N_("Diltiazem")},
+    {DrugEnum::DOBUTAMINE, "DOBUTAMINE", N_("Dobutamine")},
+    {DrugEnum::DOPAMINE, "DOPAMINE", N_("Dopamine")},
+    {DrugEnum::EPINEPHRINE, "EPINEPHRINE", N_("Epinephrine")},
+    {DrugEnum::ESMOLOL, "ESMOLOL", N_("Esmolol")},
+    {DrugEnum::FENTANYL, "FENTANYL", N_("Fentanyl")},
+    {DrugEnum::GTN, "GTN", N_("Glyceryl trinitrate")},
+    {DrugEnum::HEPARIN, "HEPARIN", N_("Heparin")},
+    {DrugEnum::INSULIN, "INSULIN", N_("Insulin")},
+    {DrugEnum::KETAMIN, "KETAMIN", N_("Ketamine")},
+    {DrugEnum::LIDOCAINE, "LIDOCAINE", N_("Lidocaine")},
+    {DrugEnum::MAGNESIUM, "MAGNESIUM", N_("Magnesium")},
+    {DrugEnum::MIDAZOLAM, "MIDAZOLAM", N_("Midazolam")},
+    {DrugEnum::MILRINONE, "MILRINONE", N_("Milrinone")},
+    {DrugEnum::MORPHINE, "MORPHINE", N_("Morphine")},
+    {DrugEnum::NOREPINEPHRINE, "NOREPINEPHRINE", N_("Norepinephrine")},
+    {DrugEnum::PROPOFOL, "PROPOFOL", N_("Propofol")},
+    {DrugEnum::SODIUM_NITROPRUSSIDE, "SODIUM_NITROPRUSSIDE", N_("Sodium nitroprusside")},
+    {DrugEnum::VASOPRESSIN, "VASOPRESSIN", N_("Vasopressin")},
 };
 
 } // namespace
@@ -50,7 +52,7 @@ Pelmora::GString displayName(DrugEnum drug)
 {
     for (const DrugName& row : drugNames)
         if (row.drug == drug)
-            return row.displayName;
+            return tr(row.displayName);
     return {};
 }
 

@@ -11,7 +11,7 @@ namespace Infusions
 /// The drug of a vocabulary name, "DOPAMINE", among those that are given as infusions.
 std::optional<Pelmora::DrugEnum> drugOfName(std::string_view vocabularyName);
 
-/// How the drug is called on screen.
+/// How the drug is called on screen, in the language of the user.
 Pelmora::GString displayName(Pelmora::DrugEnum drug);
 
 } // namespace Infusions

@@ -1,4 +1,7 @@
-// infusions FILE: reads infusion orders and prints what to set on the pumps.
+// infusions [--lang LANGUAGE] FILE: reads infusion orders and prints what to set on the pumps.
+//
+// LANGUAGE is a language code or the path of a catalogue (.mo); texts that it does not translate
+// are listed in the error log.
 //
 // Exit status: 0 when every order was calculated, 1 when some were refused (each is named on
 // standard error with its line and the reason), 2 when there was nothing to calculate.
@@ -7,15 +10,20 @@
 #include "drugNames.h"
 #include "quantity.h"
 #include "table.h"
+#include "translation.h"
+
+#include "pelmora/log/LogStream.h"
 
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <vector>
 
 namespace
 {
 
 using Infusions::Order;
+using Infusions::tr;
 
 enum ExitStatus { allCalculated = 0, someRefused = 1, nothingToDo = 2 };
 
@@ -28,14 +36,15 @@ Infusions::TableRow tableRow(const Order& order)
             Infusions::pumpRate(order).toNormalizedString(significantDigits)};
 }
 
-int run(const char* fileName)
+int run(const std::string& fileName)
 {
     std::ifstream file(fileName);
     if (!file) {
-        std::cerr << fileName << ": cannot be opened\n";
+        std::cerr << fileName << ": " << tr("the file cannot be opened").to_utf8() << '\n';
         return nothingToDo;
     }
-    std::vector<Infusions::TableRow> rows = {{u"Drug", u"Dose", u"Concentration", u"Pump rate"}};
+    std::vector<Infusions::TableRow> rows = {
+        {tr("Drug"), tr("Dose"), tr("Concentration"), tr("Pump rate")}};
     std::string refused;
     std::string line;
     for (int number = 1; std::getline(file, line); ++number) {
@@ -45,8 +54,8 @@ int run(const char* fileName)
         try {
             rows.push_back(tableRow(Infusions::parseOrder(content)));
         } catch (const Infusions::OrderError& error) {
-            refused += std::string(fileName) + ":" + std::to_string(number) +
-                       ": order refused: " + error.what() + "\n";
+            refused += fileName + ":" + std::to_string(number) + ": " +
+                       tr("order refused:").to_utf8() + " " + error.what() + "\n";
         }
     }
     std::cout << Infusions::tableText(rows).to_utf8() << std::flush;
@@ -54,16 +63,31 @@ int run(const char* fileName)
     return refused.empty() ? allCalculated : someRefused;
 }
 
+void speak(const std::string& language)
+{
+    Pelmora::Init::init(Pelmora::GString(language));
+    Pelmora::Native::gettext_locale.set_translator(Pelmora::Native::translate_from_catalogue);
+    Pelmora::Native::gettext_locale.set_log_missing(true);
+}
+
 } // namespace
 
-int main(int argumentCount, char** arguments)
+int main(int argumentCount, char** argumentValues)
 {
-    if (argumentCount != 2) {
-        std::cerr << "usage: infusions FILE\n";
+    const std::vector<std::string> arguments(argumentValues + 1, argumentValues + argumentCount);
+    const bool hasLanguage = arguments.size() == 3 && arguments[0] == "--lang";
+    if (!hasLanguage && arguments.size() != 1) {
+        std::cerr << "usage: infusions [--lang LANGUAGE] FILE\n";
         return nothingToDo;
     }
     try {
-        return run(arguments[1]);
+        if (hasLanguage)
+            speak(arguments[1]);
+        const int status = run(arguments.back());
+        if (hasLanguage)
+            std::cerr << tr("Untranslated texts are listed in").to_utf8() << ' '
+                      << Pelmora::Native::get_log().path() << '\n';
+        return status;
     } catch (const std::exception& error) {
         std::cerr << "infusions: " << error.what() << '\n';
         return nothingToDo;

@@ -1,15 +1,17 @@
 #include "quantity.h"
 
+#include "translation.h"
+
 #include <charconv>
 #include <cmath>
 #include <memory>
-#include <string>
 
 namespace Infusions
 {
 namespace
 {
 
+using Pelmora::GString;
 using Pelmora::UnitElement;
 using Pelmora::UnitPrefix;
 using Pelmora::UnitTypeEnum;
@@ -44,7 +46,7 @@ std::shared_ptr<UnitElement> element(std::string_view word, Grams grams, std::in
         const UnitTypeEnum kind = isPatient ? UnitTypeEnum::UNIT_G_PT : row.kind;
         return std::make_shared<UnitElement>(kind, row.prefix, exponent);
     }
-    throw QuantityError("there is no unit '" + std::string(word) + "'");
+    throw QuantityError(GString::format(tr("there is no unit '%s'"), word));
 }
 
 std::shared_ptr<Pelmora::Unit> unit(std::string_view text, Grams grams)
@@ -66,9 +68,9 @@ Pelmora::UnitValue quantity(std::string_view text, Grams grams)
     double number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
     if (read.ec != std::errc())
-        throw QuantityError("'" + std::string(text) + "' does not begin with a number");
+        throw QuantityError(GString::format(tr("'%s' does not begin with a number"), text));
     if (!(number > 0) || !std::isfinite(number))
-        throw QuantityError("'" + std::string(text) + "' is not more than nothing");
+        throw QuantityError(GString::format(tr("'%s' is not more than nothing"), text));
     const auto rest = static_cast<std::size_t>(read.ptr - text.data());
     return {number, unit(trimmed(text.substr(rest)), grams)};
 }

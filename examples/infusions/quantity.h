@@ -12,7 +12,7 @@ namespace Infusions
 class QuantityError : public std::runtime_error
 {
 public:
-    using std::runtime_error::runtime_error;
+    explicit QuantityError(const Pelmora::GString& why) : std::runtime_error(why.to_utf8()) {}
 };
 
 /// Whose grams a quantity counts.
