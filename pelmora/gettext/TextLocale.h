@@ -84,8 +84,8 @@ extern PELMORA_API TextLocale& gettext_locale;
 /// the encoding that its header names, if that is UTF-8, or in the language's code page.
 PELMORA_API GString translate_from_catalogue(std::string msgid);
 
-/// Looks the labels of laboratory values up and discards what it finds. Kept for the tools that
-/// collect message identifiers from the calls.
+/// Looks up the two labels of laboratory values, which every catalogue is expected to hold, and
+/// discards what it finds. Nothing inside the library needs it.
 PELMORA_API void look_up_lab_unit_labels(const Catalogue& catalogue);
 
 } // namespace Pelmora::Native

@@ -75,14 +75,6 @@ TEST(ExceptionData, ReportsWhereAnExceptionCameFrom)
     }
 }
 
-TEST(AliveDataStorage, IsOneObject)
-{
-    EXPECT_FALSE(AliveDataStorage::get()->mUpdated);
-    EXPECT_EQ(AliveDataStorage::get()->mMasterClientId, u"");
-    AliveDataStorage::get()->mServerUserId = u"nurse";
-    EXPECT_EQ(AliveDataStorage::get()->mServerUserId, u"nurse");
-}
-
 TEST(Init, TakesALanguageOrThatOfTheCulture)
 {
     Init::init(u"de");

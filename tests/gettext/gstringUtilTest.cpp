@@ -12,17 +12,6 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(GString, CaseAndClassesOfUnits)
-{
-    EXPECT_EQ(GString(u"Dose 5 MG").to_lower(), u"dose 5 mg");
-    EXPECT_EQ(GString(u"Dose 5 mg").to_upper(), u"DOSE 5 MG");
-    EXPECT_TRUE(GString::is_alpha('x') && GString::is_punct(';') && GString::is_space('\t'));
-    EXPECT_FALSE(GString::is_alpha('1') || GString::is_punct('x') || GString::is_space('x'));
-    EXPECT_TRUE(GString::is_digit('0') && GString::is_digit('9'));
-    EXPECT_FALSE(GString::is_digit('0' - 1) || GString::is_digit('9' + 1) ||
-                 GString::is_digit(0x0661) || GString::is_digit(0x00B2));
-}
-
 TEST(GString, ToLong)
 {
     const struct {

@@ -60,31 +60,6 @@ TEST(UnitElement, IsoForm)
     }
 }
 
-TEST(UnitElement, SameDimension)
-{
-    const struct {
-        UnitTypeEnum a, b;
-        bool same;
-    } rows[] = {
-        {UNIT_MIN, UNIT_HR, true},
-        {UNIT_INCH, UNIT_MIUS, true},
-        {UNIT_CM, UNIT_M, true},
-        {UNIT_S, UNIT_M, false},
-        {UNIT_G, UNIT_G_PT, false},
-        {UNIT_IU, UNIT_U, false},
-        {UNIT_G, UNIT_G, true},
-        {UnitTypeEnum(-3), UnitTypeEnum(-3), true},
-        {UnitTypeEnum(15), UNIT_MOL, false},
-        {UnitTypeEnum(15), UNIT_NUMBER_OF, false},
-    };
-    for (const auto& row : rows) {
-        const UnitElement a(row.a, MILLI, 1);
-        const UnitElement b(row.b, NONE, -2);
-        EXPECT_EQ(a.sameDimension(b), row.same) << testing::PrintToString(a);
-        EXPECT_EQ(b.sameDimension(a), row.same) << testing::PrintToString(b);
-    }
-}
-
 TEST(UnitElement, ShiftOfThePrefix)
 {
     const struct {

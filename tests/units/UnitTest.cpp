@@ -30,6 +30,12 @@ TEST(Unit, ReducedForm)
         {unitOf({mL, perMin, s}), 1.0 / 60, unitOf({mL})},
         {unitOf({perMin, hr}), 3600 * (1.0 / 60), unitOf({})},
         {unitOf({m, cm}), 0.01, unitOf({{UNIT_M, NONE, 2}})},
+        {unitOf({{UNIT_INCH, NONE, 1}, {UNIT_MIUS, NONE, -1}}), 1 / 1609.34721869 * 0.0254,
+         unitOf({})},
+        {unitOf({s, m, {UNIT_IU, NONE, 1}, {UNIT_U, NONE, 1}}), 1,
+         unitOf({s, m, {UNIT_IU, NONE, 1}, {UNIT_U, NONE, 1}})},
+        {unitOf({{UnitTypeEnum(15), NONE, 1}, count}), 1,
+         unitOf({{UnitTypeEnum(15), NONE, 1}, count})},
         {unitOf({mg, mL, mg}), 0.001 * 0.001, unitOf({{UNIT_G, NONE, 2}, mL})},
         // An element of exponent 0 merges like any other, and so does one that was consumed with
         // an element that stands for nothing.
