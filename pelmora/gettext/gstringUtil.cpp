@@ -52,11 +52,12 @@ std::basic_string<Char> takenResult(Platform::ConversionStatus status,
 
 GString::Text widened(std::string_view narrow, unsigned int codePage)
 {
+    const std::size_t room = 2 * narrow.size(); // also for text that begins with its NUL
     narrow = upToNul(narrow);
     if (containsAscii(codePage) && asciiPrefix(narrow) == narrow.size())
         return {narrow.begin(), narrow.end()};
     const std::string terminated(narrow);
-    GString::Text buffer(2 * narrow.size(), 0);
+    GString::Text buffer(room, 0);
     const auto status = Platform::decode(codePage, terminated.c_str(), buffer);
     return takenResult(status, std::move(buffer));
 }
