@@ -77,7 +77,7 @@ std::string_view withoutTag(std::string_view text)
 {
     constexpr std::size_t longestTag = 3;
     const std::size_t bar = text.substr(0, longestTag + 1).find('|');
-    if (bar == std::string_view::npos || bar == 0 || !isLetter(text[0]))
+    if (bar == std::string_view::npos || !isLetter(text[0]))
         return text;
     const std::string_view tag = text.substr(0, bar);
     return std::all_of(tag.begin(), tag.end(), isLetterOrDigit) ? text.substr(bar + 1) : text;

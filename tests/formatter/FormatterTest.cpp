@@ -67,6 +67,15 @@ TEST(Formatter, OnePassEqualsFivePasses)
         ASSERT_EQ(unescape(wide(text)), inPasses(wide(text), false));
         ASSERT_EQ(unescape(escape(text)), text);
     }
+    // One special character at each place of a text that is otherwise skipped in blocks.
+    for (std::size_t place = 0; place < 70; ++place) {
+        for (const char special : {'&', '>', '"', '\'', '<'}) {
+            std::string text(70, '=');
+            text[place] = special;
+            ASSERT_EQ(escape(text), inPasses(text, true));
+            ASSERT_EQ(escape(wide(text)), inPasses(wide(text), true));
+        }
+    }
 }
 
 TEST(Formatter, ReplaceAll)
