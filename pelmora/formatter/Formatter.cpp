@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 namespace Pelmora::Native::Formatter
 {
@@ -73,27 +76,58 @@ std::size_t cleanLength(std::basic_string_view<Char> text)
     return length;
 }
 
+/// Copies characters without entity, at most those of one machine word, and returns how many.
+/// Writes up to a word more than that. Requires: `text` is not empty.
+template <class Char>
+std::size_t copyPlain(std::basic_string_view<Char> text, Char* out)
+{
+    static_assert(std::endian::native == std::endian::little, "the first character is the lowest");
+    constexpr std::size_t lanes = sizeof(std::uint64_t) / sizeof(Char);
+    if (text.size() < lanes) {
+        *out = text.front();
+        return entityOf(text.front()) == nullptr ? 1 : 0;
+    }
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data(), sizeof word);
+    std::memcpy(out, &word, sizeof word);
+
+    // The lowest lane whose highest bit is set is the first that equals a special character.
+    constexpr std::uint64_t ones = ~std::uint64_t(0) / std::make_unsigned_t<Char>(~Char(0));
+    constexpr std::uint64_t highBits = ones << (8 * sizeof(Char) - 1);
+    const auto zeroLanes = [](std::uint64_t x) { return (x - ones) & ~x & highBits; };
+    const std::uint64_t special = zeroLanes((word | ones) ^ (ones * 0x27)) |
+                                  zeroLanes((word | ones * 2) ^ (ones * 0x3E)) |
+                                  zeroLanes(word ^ (ones * 0x22));
+    if (special == 0)
+        return lanes;
+    return static_cast<std::size_t>(std::countr_zero(special)) / (8 * sizeof(Char));
+}
+
 template <class Char>
 std::basic_string<Char> escaped(std::basic_string_view<Char> text)
 {
-    std::size_t clean = cleanLength(text);
+    const std::size_t clean = cleanLength(text);
     if (clean == text.size())
         return std::basic_string<Char>(text);
 
-    std::size_t length = clean;
-    for (const Char character : text.substr(clean)) {
-        const Entity* entity = entityOf(character);
-        length += entity == nullptr ? 1 : entity->text.size();
+    constexpr std::size_t longestStep = 16; // a word and an entity
+    std::basic_string<Char> result(text.size() + text.size() / 4 + longestStep, Char(0));
+    std::size_t used = clean;
+    std::copy_n(text.data(), clean, result.data());
+    for (text.remove_prefix(clean); !text.empty();) {
+        if (result.size() - used < longestStep)
+            result.resize(2 * result.size());
+        const std::size_t plain = copyPlain(text, result.data() + used);
+        used += plain;
+        text.remove_prefix(plain);
+        const Entity* entity = text.empty() ? nullptr : entityOf(text.front());
+        if (entity != nullptr) {
+            std::copy(entity->text.begin(), entity->text.end(), result.data() + used);
+            used += entity->text.size();
+            text.remove_prefix(1);
+        }
     }
-    std::basic_string<Char> result(length, Char(0));
-    Char* out = std::copy_n(text.data(), clean, result.data());
-    for (const Char character : text.substr(clean)) {
-        const Entity* entity = entityOf(character);
-        if (entity == nullptr)
-            *out++ = character;
-        else
-            out = std::copy(entity->text.begin(), entity->text.end(), out);
-    }
+    result.resize(used);
     return result;
 }
 
