@@ -2,14 +2,16 @@
 
 #include "pelmora/gettext/NeverDestroyed.h"
 
+#include <memory>
+
 namespace Pelmora
 {
 
-const std::shared_ptr<AliveDataStorage>& AliveDataStorage::get()
+AliveDataStorage& AliveDataStorage::get()
 {
-    static const Native::NeverDestroyed<std::shared_ptr<AliveDataStorage>> instance(
+    static const Native::NeverDestroyed<std::unique_ptr<AliveDataStorage>> instance(
         new AliveDataStorage());
-    return instance.value;
+    return *instance.value;
 }
 
 } // namespace Pelmora

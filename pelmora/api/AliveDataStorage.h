@@ -3,8 +3,6 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "pelmora/platform/export.h"
 
-#include <memory>
-
 namespace Pelmora
 {
 
@@ -19,7 +17,7 @@ public:
     bool mUpdated = false;
 
     /// Always the same object; may be called by several threads at once.
-    static const std::shared_ptr<AliveDataStorage>& get();
+    static AliveDataStorage& get();
 
     AliveDataStorage(const AliveDataStorage&) = delete;
     AliveDataStorage& operator=(const AliveDataStorage&) = delete;
