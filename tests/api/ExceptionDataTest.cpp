@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <stdexcept>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -31,12 +32,7 @@ TEST(ExceptionData, WhatEachConstructorSets)
             text += u"|" + field;
         return text;
     };
-    const struct {
-        ExceptionData data;
-        GString fields;
-        Prio priority;
-        Type type;
-    } rows[] = {
+    const std::tuple<ExceptionData, GString, Prio, Type> rows[] = {
         {ExceptionData(), u"|||||", Prio::PRIO_NONE, Type::TYPE_EXCEPTION},
         {ExceptionData(u"msg"), u"msg|||||", Prio::PRIO_FATAL, Type::TYPE_EXCEPTION},
         {ExceptionData(u"msg", u"src", u"trace", u"site"), u"msg|src|trace|site||",
@@ -49,13 +45,13 @@ TEST(ExceptionData, WhatEachConstructorSets)
         {ExceptionData(std::runtime_error("caf\xE9")), u"caf\u00E9|||||", Prio::PRIO_FATAL,
          Type::TYPE_EXCEPTION},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(joined(row.data), row.fields);
-        EXPECT_EQ(row.data.mPriority, row.priority);
-        EXPECT_EQ(row.data.mType, row.type);
+    for (const auto& [data, fields, priority, type] : rows) {
+        EXPECT_EQ(joined(data), fields);
+        EXPECT_EQ(data.mPriority, priority);
+        EXPECT_EQ(data.mType, type);
         // The local clock is at most 14 hours from the universal one.
-        const auto difference = row.data.mDateTime.time_since_epoch() -
-                                std::chrono::system_clock::now().time_since_epoch();
+        const auto difference =
+            data.mDateTime.time_since_epoch() - std::chrono::system_clock::now().time_since_epoch();
         EXPECT_LE(std::chrono::abs(difference), std::chrono::hours(14));
     }
 }
@@ -82,9 +78,7 @@ TEST(Init, TakesALanguageOrThatOfTheCulture)
     Init::init();
     EXPECT_TRUE(Native::gettext_locale.initialised());
 #ifndef _WIN32
-    const struct {
-        const char *all, *messages, *lang, *culture;
-    } rows[] = {
+    const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
         {"", "", "de_DE.UTF-8", "de-DE"},
         {"", "fr_CH", "de_DE", "fr-CH"},
         {"ja", "fr_CH", "de_DE", "ja"},
@@ -93,12 +87,12 @@ TEST(Init, TakesALanguageOrThatOfTheCulture)
         {"", "", "", ""},
         {"sv_SE@euro", "", "", "sv-SE"},
     };
-    for (const auto& row : rows) {
-        setenv("LC_ALL", row.all, 1);
-        setenv("LC_MESSAGES", row.messages, 1);
-        setenv("LANG", row.lang, 1);
+    for (const auto& [all, messages, lang, culture] : rows) {
+        setenv("LC_ALL", all, 1);
+        setenv("LC_MESSAGES", messages, 1);
+        setenv("LANG", lang, 1);
         Init::init();
-        EXPECT_EQ(Native::gettext_locale.path(), row.culture);
+        EXPECT_EQ(Native::gettext_locale.path(), culture);
     }
 #endif
 }

@@ -3,6 +3,7 @@
 #include "tests/printing.h"
 
 #include <functional>
+#include <tuple>
 #include <type_traits>
 
 #include <gtest/gtest.h>
@@ -124,10 +125,7 @@ TEST(UnitFacade, NullReferencesAreReportedByName)
     noUnit.unit = nullptr;
     Unit unit(mg);
     const UnitValue value(1, unitOf({mg}));
-    const struct {
-        const char* name;
-        std::function<void()> call;
-    } rows[] = {
+    const std::tuple<const char*, std::function<void()>> rows[] = {
         {"'ue'", [&] { unit.addElement(nullptr); }},
         {"'ue'", [] { Unit(std::shared_ptr<UnitElement>()); }},
         {"'rhs'", [] { Unit(std::shared_ptr<Unit>()); }},
@@ -146,12 +144,12 @@ TEST(UnitFacade, NullReferencesAreReportedByName)
         {"'Unit::elements[1]'", [&] { broken.unitIsRate(); }},
         {"'Unit::elements[1]'", [&] { broken.removeElement(UNIT_G); }},
     };
-    for (const auto& row : rows) {
+    for (const auto& [name, call] : rows) {
         try {
-            row.call();
-            ADD_FAILURE() << row.name;
+            call();
+            ADD_FAILURE() << name;
         } catch (const NullReferenceError& error) {
-            EXPECT_NE(std::string(error.what()).find(row.name), std::string::npos) << error.what();
+            EXPECT_NE(std::string(error.what()).find(name), std::string::npos) << error.what();
         }
     }
 }

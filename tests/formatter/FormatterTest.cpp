@@ -1,6 +1,7 @@
 #include "pelmora/formatter/Formatter.h"
 
 #include <random>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -16,9 +17,7 @@ WideString wide(std::string_view text)
 
 TEST(Formatter, EscapeAndUnescape)
 {
-    const struct {
-        std::string plain, escaped;
-    } rows[] = {
+    const std::tuple<std::string, std::string> rows[] = {
         {"", ""},
         {"dose < 5 & > 3", "dose &lt; 5 &amp; &gt; 3"},
         {"<>&\"'", "&lt;&gt;&amp;&quot;&apos;"},
@@ -28,11 +27,11 @@ TEST(Formatter, EscapeAndUnescape)
         {std::string(40, 'x') + "'" + std::string(40, 'y'),
          std::string(40, 'x') + "&apos;" + std::string(40, 'y')},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(escape(row.plain), row.escaped);
-        EXPECT_EQ(unescape(row.escaped), row.plain);
-        EXPECT_EQ(escape(wide(row.plain)), wide(row.escaped));
-        EXPECT_EQ(unescape(wide(row.escaped)), wide(row.plain));
+    for (const auto& [plain, escaped] : rows) {
+        EXPECT_EQ(escape(plain), escaped);
+        EXPECT_EQ(unescape(escaped), plain);
+        EXPECT_EQ(escape(wide(plain)), wide(escaped));
+        EXPECT_EQ(unescape(wide(escaped)), wide(plain));
     }
     EXPECT_EQ(unescape("&amp;lt; &#60; & &nbsp; &LT; &amp"), "&lt; &#60; & &nbsp; &LT; &amp");
 }

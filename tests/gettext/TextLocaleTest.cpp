@@ -3,6 +3,7 @@
 #include "tests/printing.h"
 
 #include <stdexcept>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -18,17 +19,15 @@ GString echo(std::string msgid)
 
 TEST(TextLocale, LanguageOfAPath)
 {
-    const struct {
-        const char *path, *language;
-    } rows[] = {
+    const std::tuple<const char*, const char*> rows[] = {
         {"", ""},        {"d", ""},        {"de", "de"},           {"de-DE", "DE"},
         {"ab.MO", "ab"}, {"xde.mo", "de"}, {"C:\\l\\de.mo", "de"}, {"lang/de.mox", "ox"},
     };
     TextLocale locale;
-    for (const auto& row : rows) {
-        locale.init(row.path);
-        EXPECT_EQ(locale.language(), row.language) << row.path;
-        EXPECT_EQ(locale.catalogue(), nullptr) << row.path;
+    for (const auto& [path, language] : rows) {
+        locale.init(path);
+        EXPECT_EQ(locale.language(), language) << path;
+        EXPECT_EQ(locale.catalogue(), nullptr) << path;
     }
     locale.init(CATALOGUES "small.little.mo");
     for (const char* path : {".mo", "x.mo"}) {
@@ -39,12 +38,7 @@ TEST(TextLocale, LanguageOfAPath)
 
 TEST(TextLocale, PropertiesOfTheLanguage)
 {
-    const struct {
-        const char* language;
-        unsigned int codePage;
-        const char* charset;
-        unsigned int identifier;
-    } rows[] = {
+    const std::tuple<const char*, unsigned int, const char*, unsigned int> rows[] = {
         {"ja", 932, "Shift_JIS", 0x411},   {"ko", 949, "ISO-2022-KR", 0x412},
         {"zh", 936, "gb2312", 0x4},        {"en", 1252, "iso-8859-1", 0x409},
         {"us", 1252, "iso-8859-1", 0x409}, {"uk", 1252, "iso-8859-1", 0x809},
@@ -59,12 +53,12 @@ TEST(TextLocale, PropertiesOfTheLanguage)
         {"JA", 1252, "iso-8859-1", 0x400}, {"", 1252, "iso-8859-1", 0x400},
     };
     TextLocale locale;
-    for (const auto& row : rows) {
-        locale.init(row.language);
-        EXPECT_EQ(locale.code_page(), row.codePage) << row.language;
-        EXPECT_EQ(locale.uses_non_latin_code_page(), row.codePage != 1252) << row.language;
-        EXPECT_STREQ(locale.charset(), row.charset) << row.language;
-        EXPECT_EQ(locale.lang_id(), row.identifier) << row.language;
+    for (const auto& [language, codePage, charset, identifier] : rows) {
+        locale.init(language);
+        EXPECT_EQ(locale.code_page(), codePage) << language;
+        EXPECT_EQ(locale.uses_non_latin_code_page(), codePage != 1252) << language;
+        EXPECT_STREQ(locale.charset(), charset) << language;
+        EXPECT_EQ(locale.lang_id(), identifier) << language;
     }
 }
 
@@ -86,17 +80,14 @@ TEST(TextLocale, TagsAreRemovedBeforeTheLookUp)
 {
     TextLocale locale;
     locale.set_translator(echo);
-    const struct {
-        const char* text;
-        GString translated;
-    } rows[] = {
+    const std::tuple<const char*, GString> rows[] = {
         {"r|mg/dL", u"<mg/dL>"}, {"ab|x", u"<x>"},          {"a1c|x", u"<x>"},
         {"abcd|x", u"<abcd|x>"}, {"1|x", u"<1|x>"},         {"a-|x", u"<a-|x>"},
         {"|x", u"<|x>"},         {"r|a|b", u"<a|b>"},       {"r|", u""},
         {nullptr, u""},          {"\xE9|x", u"<\u00E9|x>"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(locale.tr(row.text), row.translated) << (row.text ? row.text : "null");
+    for (const auto& [text, translated] : rows)
+        EXPECT_EQ(locale.tr(text), translated) << (text ? text : "null");
 }
 
 TEST(TextLocale, TranslatorFromTheCatalogueReadsItsEncoding)

@@ -1,6 +1,8 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "tests/printing.h"
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 namespace Pelmora::Native
@@ -10,11 +12,7 @@ namespace
 
 TEST(CodePages, TextsOfBothSidesMatch)
 {
-    const struct {
-        unsigned int codePage;
-        std::string narrow;
-        GString text;
-    } rows[] = {
+    const std::tuple<unsigned int, std::string, GString> rows[] = {
         {0, "", u""},
         {99999, "", u""},
         {0, "b\xE9zier \x80\x96", u"b\u00E9zier \u20AC\u2013"},
@@ -26,32 +24,24 @@ TEST(CodePages, TextsOfBothSidesMatch)
         {949, "\xBC\xAD\xBF\xEF", u"\uC11C\uC6B8"},
         {936, "\xB1\xB1\xBE\xA9", u"\u5317\u4EAC"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(GString(row.narrow, row.codePage), row.text) << row.codePage;
-        EXPECT_EQ(row.text.to_narrow(row.codePage), row.narrow) << row.codePage;
+    for (const auto& [codePage, narrow, text] : rows) {
+        EXPECT_EQ(GString(narrow, codePage), text) << codePage;
+        EXPECT_EQ(text.to_narrow(codePage), narrow) << codePage;
     }
 }
 
 TEST(CodePages, WhatHasNoCounterpartIsReplaced)
 {
-    const struct {
-        unsigned int codePage;
-        GString text;
-        std::string narrow;
-    } toNarrow[] = {
+    const std::tuple<unsigned int, GString, std::string> toNarrow[] = {
         {0, u"\u0101\u0142\uFF21\u2032\u2212\u0111", "alA'-d"}, // best fits
         {0, u"\u6771\u2603!", "?\?!"},
         {0, u"\xD83D\xDE00x", "??x"},
         {932, u"\u6771\uC11C", "\x93\x8C?"},
         {99999, u"\u00E9", ""},
     };
-    for (const auto& row : toNarrow)
-        EXPECT_EQ(row.text.to_narrow(row.codePage), row.narrow) << testing::PrintToString(row.text);
-    const struct {
-        unsigned int codePage;
-        std::string narrow;
-        GString text;
-    } toWide[] = {
+    for (const auto& [codePage, text, narrow] : toNarrow)
+        EXPECT_EQ(text.to_narrow(codePage), narrow) << testing::PrintToString(text);
+    const std::tuple<unsigned int, std::string, GString> toWide[] = {
         {65001, "\xF0\x9F\x98\x80", u"\xD83D\xDE00"},
         {65001, "a\xF0\x9F\x98z\xE2\x82", u"a\uFFFDz\uFFFD"},
         {65001, "\xC0\x80\xFF\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
@@ -60,8 +50,8 @@ TEST(CodePages, WhatHasNoCounterpartIsReplaced)
         {936, "\xB1\xB1\x81 ", u"\u5317?"},
         {99999, "\xE9", u""},
     };
-    for (const auto& row : toWide)
-        EXPECT_EQ(GString(row.narrow, row.codePage), row.text) << row.narrow;
+    for (const auto& [codePage, narrow, text] : toWide)
+        EXPECT_EQ(GString(narrow, codePage), text) << narrow;
 }
 
 TEST(CodePages, ConversionsEndAtTheFirstNul)

@@ -2,6 +2,7 @@
 #include "tests/printing.h"
 
 #include <limits>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -14,9 +15,7 @@ TEST(Format, ConversionsOfEveryKind)
 {
     const GString drug(u"\u30C9\u30D1");
     const char* narrow = "caf\xE9";
-    const struct {
-        GString formatted, expected;
-    } rows[] = {
+    const std::tuple<GString, GString> rows[] = {
         {GString::format(u"plain"), u"plain"},
         {GString::format(u"100%% of %s", narrow), u"100% of caf\u00E9"},
         {GString::format(u"%s|%ls|%S|%hs", drug, u"wide", drug, std::string("std")),
@@ -36,15 +35,13 @@ TEST(Format, ConversionsOfEveryKind)
         {GString::format(u"%p", reinterpret_cast<const void*>(0x1F)), u"000000000000001F"},
         {GString::format(u"%s", static_cast<const char*>(nullptr)), u"(null)"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.formatted, row.expected);
+    for (const auto& [formatted, expected] : rows)
+        EXPECT_EQ(formatted, expected);
 }
 
 TEST(Format, WhatDoesNotFitIsWrittenAsItStands)
 {
-    const struct {
-        GString formatted, expected;
-    } rows[] = {
+    const std::tuple<GString, GString> rows[] = {
         {GString::format(u"%s of %d", 5, "mg"), u"%s of %d"},
         {GString::format(u"%d %d", 1), u"1 %d"},
         {GString::format(u"%n%d", 7), u"%n7"},
@@ -53,8 +50,8 @@ TEST(Format, WhatDoesNotFitIsWrittenAsItStands)
         {GString::format(u"50%", 7), u"50%"},
         {GString::format(u"%f", 7), u"%f"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.formatted, row.expected);
+    for (const auto& [formatted, expected] : rows)
+        EXPECT_EQ(formatted, expected);
 }
 
 TEST(Format, LongResults)

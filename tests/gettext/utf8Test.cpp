@@ -5,6 +5,7 @@
 
 #include <array>
 #include <memory>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -15,11 +16,7 @@ namespace
 
 TEST(Utf8, DecodesEveryLengthAtItsLimits)
 {
-    const struct {
-        std::string bytes;
-        int available, length;
-        std::uint32_t value;
-    } rows[] = {
+    const std::tuple<std::string, int, int, std::uint32_t> rows[] = {
         {"\x7F", 1, 1, 0x7F},
         {"\xC2\x80", 2, 2, 0x80},
         {"\xDF\xBF", 2, 2, 0x7FF},
@@ -40,20 +37,20 @@ TEST(Utf8, DecodesEveryLengthAtItsLimits)
         {"\xE2\x82", 3, utf8Malformed, 0},
         {"\xE2\xC2\x80", 3, utf8Malformed, 0},
     };
-    for (const auto& row : rows) {
+    for (const auto& [bytes, available, length, expected] : rows) {
         // An allocation of exactly this size shows a read behind the end to the sanitizer.
-        const auto exact = std::make_unique<char[]>(row.bytes.size());
-        row.bytes.copy(exact.get(), row.bytes.size());
-        const std::string_view text(exact.get(), row.bytes.size());
+        const auto exact = std::make_unique<char[]>(bytes.size());
+        bytes.copy(exact.get(), bytes.size());
+        const std::string_view text(exact.get(), bytes.size());
         std::uint32_t value = 0;
-        EXPECT_EQ(decodeUtf8(text, row.available, value), row.length) << row.bytes;
-        EXPECT_EQ(value, row.value) << row.bytes;
-        if (row.length < 1)
+        EXPECT_EQ(decodeUtf8(text, available, value), length) << bytes;
+        EXPECT_EQ(value, expected) << bytes;
+        if (length < 1)
             continue;
         std::array<char, 6> room = {};
-        ASSERT_EQ(encodeUtf8(value, room), row.length);
-        EXPECT_EQ(std::string(room.data(), row.bytes.size()), row.bytes);
-        EXPECT_EQ(encodeUtf8(value, std::span(room).first(row.bytes.size() - 1)), utf8NoRoom);
+        ASSERT_EQ(encodeUtf8(value, room), length);
+        EXPECT_EQ(std::string(room.data(), bytes.size()), bytes);
+        EXPECT_EQ(encodeUtf8(value, std::span(room).first(bytes.size() - 1)), utf8NoRoom);
     }
     std::array<char, 8> room = {};
     EXPECT_EQ(encodeUtf8(0x80000000, room), utf8Malformed);
@@ -61,10 +58,7 @@ TEST(Utf8, DecodesEveryLengthAtItsLimits)
 
 TEST(Utf8, TextsReadBack)
 {
-    const struct {
-        std::string utf8;
-        GString text;
-    } rows[] = {
+    const std::tuple<std::string, GString> rows[] = {
         {"", u""},
         {"\xC3\xA9", u"\u00E9"},
         {"12345678\xC3\xA9"
@@ -73,10 +67,10 @@ TEST(Utf8, TextsReadBack)
         {"\xED\xA0\xBD\xED\xB8\x80", u"\xD83D\xDE00"},
         {std::string("a\0b", 3), GString::Text{'a', 0, 'b'}},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(GString::from_utf8(row.utf8), row.text);
-        EXPECT_EQ(row.text.to_utf8(), row.utf8);
-        EXPECT_EQ(row.text.to_narrow(utf8CodePage), row.utf8);
+    for (const auto& [utf8, text] : rows) {
+        EXPECT_EQ(GString::from_utf8(utf8), text);
+        EXPECT_EQ(text.to_utf8(), utf8);
+        EXPECT_EQ(text.to_narrow(utf8CodePage), utf8);
     }
 }
 

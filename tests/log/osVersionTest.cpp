@@ -1,5 +1,7 @@
 #include "pelmora/log/osVersion.h"
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 namespace Pelmora::Native
@@ -9,10 +11,7 @@ namespace
 
 TEST(OsVersion, Descriptions)
 {
-    const struct {
-        Platform::OsVersion version;
-        const char* text;
-    } rows[] = {
+    const std::tuple<Platform::OsVersion, const char*> rows[] = {
         {{0, 3, 11, 5, ""}, "Win32s"},
         {{1, 4, 0, 950, ""}, "Windows 95"},
         {{1, 4, 0, 950, " C"}, "Windows 95 OSR2"},
@@ -35,8 +34,8 @@ TEST(OsVersion, Descriptions)
         {{3, 4, 0, 1, " C"}, "Platform 3"},
         {{0xFFFFFFFF, 4, 0, 1, ""}, "Platform 4294967295"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(osDescription(row.version), row.text);
+    for (const auto& [version, text] : rows)
+        EXPECT_EQ(osDescription(version), text);
 }
 
 } // namespace

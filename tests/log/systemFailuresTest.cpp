@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <set>
+#include <tuple>
 #include <variant>
 
 #include <gtest/gtest.h>
@@ -42,17 +43,15 @@ namespace
 
 TEST(SystemFailures, TemporaryFolderFallsBackToTheEnvironment)
 {
-    const struct {
-        const char *temp, *tmp, *folder;
-    } rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"TEMP=C:\\T", "TMP=C:\\U", "C:\\T\\"},
         {"TEMP=", "TMP=C:\\U", "C:\\U\\"},
         {"TEMP=", "TMP=", ".\\"},
     };
-    for (const auto& row : rows) {
-        _putenv(row.temp);
-        _putenv(row.tmp);
-        EXPECT_EQ(temporaryFolder(), row.folder);
+    for (const auto& [temp, tmp, folder] : rows) {
+        _putenv(temp);
+        _putenv(tmp);
+        EXPECT_EQ(temporaryFolder(), folder);
     }
 }
 

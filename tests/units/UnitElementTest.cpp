@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -32,11 +33,7 @@ TEST(UnitElement, IsoFactorsAreTheExactPowersRoundedOnce)
 
 TEST(UnitElement, IsoForm)
 {
-    const struct {
-        UnitElement element;
-        double factor;
-        UnitElement iso;
-    } rows[] = {
+    const std::tuple<UnitElement, double, UnitElement> rows[] = {
         {mL, 0.001, {UNIT_L, NONE, 1}},
         {perMin, 1.0 / 60, {UNIT_S, NONE, -1}},
         {{UNIT_CM, NONE, 2}, 0.0001, {UNIT_M, NONE, 2}},
@@ -54,20 +51,15 @@ TEST(UnitElement, IsoForm)
         {{UNIT_MIN, NONE, lowest}, 0, {UNIT_S, NONE, lowest}},
         {{UNIT_MIN, NONE, highest}, infinity, {UNIT_S, NONE, highest}},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.element.toIso().factor, row.factor) << testing::PrintToString(row.element);
-        EXPECT_EQ(row.element.toIso().element, row.iso);
+    for (const auto& [element, factor, iso] : rows) {
+        EXPECT_EQ(element.toIso().factor, factor) << testing::PrintToString(element);
+        EXPECT_EQ(element.toIso().element, iso);
     }
 }
 
 TEST(UnitElement, ShiftOfThePrefix)
 {
-    const struct {
-        UnitElement element;
-        int steps;
-        double factor;
-        UnitPrefix moved;
-    } rows[] = {
+    const std::tuple<UnitElement, int, double, UnitPrefix> rows[] = {
         {mg, -1, 0.001 / 1e-6, MICRO},
         {{UNIT_L, MILLI, -1}, -1, (1 / 0.001) / (1 / 1e-6), MICRO},
         {mg, 2, 0.001 / 1e3, KILO},
@@ -82,10 +74,10 @@ TEST(UnitElement, ShiftOfThePrefix)
         {{UNIT_G, NONE, 1}, highest, 1 / 1e9, GIGA},
         {{UNIT_G, UnitPrefix(lowest), 1}, lowest, 0, NANO},
     };
-    for (const auto& row : rows) {
-        const ScaledElement shifted = row.element.shiftPrefix(row.steps);
-        const UnitElement expected(row.element.unitType, row.moved, row.element.exponent);
-        EXPECT_EQ(shifted.factor, row.factor) << testing::PrintToString(row.element);
+    for (const auto& [element, steps, factor, moved] : rows) {
+        const ScaledElement shifted = element.shiftPrefix(steps);
+        const UnitElement expected(element.unitType, moved, element.exponent);
+        EXPECT_EQ(shifted.factor, factor) << testing::PrintToString(element);
         EXPECT_EQ(shifted.element, expected);
     }
 }

@@ -5,6 +5,7 @@
 #include "tests/units/sampleUnits.h"
 
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -16,11 +17,7 @@ namespace
 
 TEST(Unit, ReducedForm)
 {
-    const struct {
-        Unit unit;
-        double factor;
-        Unit reduced;
-    } rows[] = {
+    const std::tuple<Unit, double, Unit> rows[] = {
         {unitOf({}), 1, unitOf({})},
         {unitOf({mg}), 1, unitOf({mg})},
         {unitOf({{UNIT_G, KILO, 0}}), 1, unitOf({})},
@@ -46,19 +43,15 @@ TEST(Unit, ReducedForm)
          unitOf({{UNIT_NUMBER_OF, NONE, 2}})},
         {unitOf({{UNIT_S, NONE, highest}, s, perMin}), 1.0 / 60, unitOf({{UNIT_S, NONE, highest}})},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.unit.getReduced().factor, row.factor) << testing::PrintToString(row.unit);
-        EXPECT_EQ(row.unit.getReduced().unit, row.reduced);
+    for (const auto& [unit, factor, reduced] : rows) {
+        EXPECT_EQ(unit.getReduced().factor, factor) << testing::PrintToString(unit);
+        EXPECT_EQ(unit.getReduced().unit, reduced);
     }
 }
 
 TEST(Unit, IsoForm)
 {
-    const struct {
-        Unit unit;
-        double factor;
-        Unit iso;
-    } rows[] = {
+    const std::tuple<Unit, double, Unit> rows[] = {
         {unitOf({}), 1, unitOf({})},
         {unitOf({perMin, perKgBody, mg}), (1.0 / 60) * 0.001 * 0.001,
          unitOf({g, perS, {UNIT_G_PT, NONE, -1}})},
@@ -69,18 +62,15 @@ TEST(Unit, IsoForm)
         {unitOf({{UnitTypeEnum(99), NONE, 2}, mg, {UNIT_G, NONE, 0}}), 0.001,
          unitOf({g, {UNIT_NUMBER_OF, NONE, 2}})},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.unit.getAsIsoUnit().factor, row.factor) << testing::PrintToString(row.unit);
-        EXPECT_EQ(row.unit.getAsIsoUnit().unit, row.iso);
+    for (const auto& [unit, factor, iso] : rows) {
+        EXPECT_EQ(unit.getAsIsoUnit().factor, factor) << testing::PrintToString(unit);
+        EXPECT_EQ(unit.getAsIsoUnit().unit, iso);
     }
 }
 
 TEST(Unit, CompatibilityAndEquivalence)
 {
-    const struct {
-        Unit a, b;
-        bool compatible, equivalent;
-    } rows[] = {
+    const std::tuple<Unit, Unit, bool, bool> rows[] = {
         {unitOf({mg, perMin}), unitOf({g, perHr}), true, false},
         {unitOf({mg, perMin}), unitOf({perMin, mg}), true, true},
         {unitOf({mg}), unitOf({mg, perKgBody}), false, false},
@@ -89,10 +79,10 @@ TEST(Unit, CompatibilityAndEquivalence)
         {unitOf({m, m}), unitOf({m}), true, false},
         {unitOf({g}), unitOf({{UNIT_G_PT, NONE, 1}}), false, false},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.a.compatibleWith(row.b), row.compatible) << testing::PrintToString(row.a);
-        EXPECT_EQ(row.b.compatibleWith(row.a), row.compatible);
-        EXPECT_EQ(row.a.isEquivalent(row.b), row.equivalent) << testing::PrintToString(row.a);
+    for (const auto& [a, b, compatible, equivalent] : rows) {
+        EXPECT_EQ(a.compatibleWith(b), compatible) << testing::PrintToString(a);
+        EXPECT_EQ(b.compatibleWith(a), compatible);
+        EXPECT_EQ(a.isEquivalent(b), equivalent) << testing::PrintToString(a);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "tests/units/sampleUnits.h"
 
 #include <cmath>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -73,13 +74,7 @@ TEST(UnitValue, Normalisation)
 {
     const auto grams = [](UnitPrefix prefix) { return unitOf({{UNIT_G, prefix, 1}, perHr}); };
     const Unit units = unitOf({{UNIT_U, NONE, 1}, perHr});
-    const struct {
-        double value;
-        Unit unit;
-        int maxMagnitude;
-        double normalised;
-        Unit expected;
-    } rows[] = {
+    const std::tuple<double, Unit, int, double, Unit> rows[] = {
         {0.05, grams(MILLI), 3, 0.05 * (0.001 / 1e-6), grams(MICRO)},
         {0.00002, grams(NONE), 3, 0.00002 * (1 / 0.001) * (0.001 / 1e-6), grams(MICRO)},
         {999, grams(MILLI), 3, 999, grams(MILLI)},
@@ -95,23 +90,19 @@ TEST(UnitValue, Normalisation)
         {0.01, unitOf({{UNIT_M, KILO, 2}}), 5, 0.01 * 1e6, unitOf({{UNIT_M, NONE, 2}})},
         {-1, unitOf({{UNIT_G, NANO, 60}}), 3, -1, unitOf({{UNIT_G, NANO, 60}})},
     };
-    for (const auto& row : rows)
-        expectValue(UnitValue(row.value, row.unit).toNormalized(row.maxMagnitude), row.normalised,
-                    row.expected);
+    for (const auto& [value, unit, maxMagnitude, normalised, expected] : rows)
+        expectValue(UnitValue(value, unit).toNormalized(maxMagnitude), normalised, expected);
 }
 
 TEST(UnitValue, DecimalMagnitude)
 {
-    const struct {
-        double value;
-        int magnitude;
-    } rows[] = {
+    const std::tuple<double, int> rows[] = {
         {0, 0},     {-0.0, 0},    {1, 1},       {9.99, 1},    {10, 2},   {999.9, 3},
         {1e9, 10},  {1e10, 11},   {1e300, 11},  {0.999, -1},  {0.1, -1}, {0.0999, -2},
         {1e-5, -5}, {1e-11, -11}, {9e-12, -12}, {-1000, -12}, {-1, -12}, {std::nan(""), -12},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(decimalMagnitude(row.value), row.magnitude) << row.value;
+    for (const auto& [value, magnitude] : rows)
+        EXPECT_EQ(decimalMagnitude(value), magnitude) << value;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <locale>
 #include <sstream>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -16,10 +17,7 @@ namespace
 
 TEST(UnitText, Elements)
 {
-    const struct {
-        UnitElement element;
-        GString withSign, absolute;
-    } rows[] = {
+    const std::tuple<UnitElement, GString, GString> rows[] = {
         {mg, u"mg", u"mg"},
         {{UNIT_G_PT, KILO, -1}, u"kg^-1", u"kg"},
         {{UNIT_L, MICRO, 2}, u"mcL\u00B2", u"mcL\u00B2"},
@@ -33,19 +31,15 @@ TEST(UnitText, Elements)
         {{UnitTypeEnum(-1), UnitPrefix(4), 1}, u"", u""},
         {{UNIT_MIUS, NONE, 1}, u"mi U.S.", u"mi U.S."},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.element.toString(false), row.withSign);
-        EXPECT_EQ(row.element.toString(true), row.absolute);
+    for (const auto& [element, withSign, absolute] : rows) {
+        EXPECT_EQ(element.toString(false), withSign);
+        EXPECT_EQ(element.toString(true), absolute);
     }
 }
 
 TEST(UnitText, Units)
 {
-    const struct {
-        Unit unit;
-        GString text;
-        std::string debug;
-    } rows[] = {
+    const std::tuple<Unit, GString, std::string> rows[] = {
         {unitOf({}), u"", "{  }"},
         {unitOf({mg, perKgBody, perMin}), u"mg/kg/min", "{ mg, kg^-1, min^-1 }"},
         {unitOf({perHr, mL}), u"mL/hr", "{ hr^-1, mL }"},
@@ -55,20 +49,15 @@ TEST(UnitText, Units)
         {unitOf({{UNIT_L, NONE, 0}, {UNIT_PROCENT, NONE, 1}}), u"%", "{ , % }"},
         {unitOf({count}), u"", "{  }"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.unit.toString(), row.text);
-        EXPECT_EQ(row.unit.toDebugString(), row.debug);
+    for (const auto& [unit, text, debug] : rows) {
+        EXPECT_EQ(unit.toString(), text);
+        EXPECT_EQ(unit.toDebugString(), debug);
     }
 }
 
 TEST(UnitText, Values)
 {
-    const struct {
-        double value;
-        Unit unit;
-        int precision;
-        GString text;
-    } rows[] = {
+    const std::tuple<double, Unit, int, GString> rows[] = {
         {2.5, unitOf({mg, perKg}), 1, u"2.5 mg/kg"},
         {40, unitOf({mL, perHr}), 0, u"40 mL/hr"},
         {7, Unit(), 2, u"7.00"},
@@ -78,8 +67,8 @@ TEST(UnitText, Values)
         {1e21, unitOf({mg}), -5, u"1e+21 mg"},
         {-std::nan(""), Unit(), 1, u"-nan"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(UnitValue(row.value, row.unit).toString(row.precision), row.text);
+    for (const auto& [value, unit, precision, text] : rows)
+        EXPECT_EQ(UnitValue(value, unit).toString(precision), text);
     // Longer than any buffer for everyday numbers.
     const GString longest = UnitValue(-std::numeric_limits<double>::max(), Unit()).toString(400);
     EXPECT_EQ(longest.size(), 1U + 309 + 1 + 400);
@@ -88,12 +77,7 @@ TEST(UnitText, Values)
 TEST(UnitText, NormalisedValues)
 {
     const Unit units = unitOf({{UNIT_U, NONE, 1}, perHr});
-    const struct {
-        double value;
-        Unit unit;
-        int digits;
-        GString text;
-    } rows[] = {
+    const std::tuple<double, Unit, int, GString> rows[] = {
         {0.05, unitOf({mg}), 3, u"50.0 mcg"},
         {1500, unitOf({mg}), 3, u"1.50 g"},
         {999, unitOf({mg}), 2, u"1.0 g"},
@@ -105,8 +89,8 @@ TEST(UnitText, NormalisedValues)
         {1234.5, units, 3, u"1.23e+03 units/hr"},
         {1234567, units, 0, u"1.23457e+06 units/hr"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(UnitValue(row.value, row.unit).toNormalizedString(row.digits), row.text);
+    for (const auto& [value, unit, digits, text] : rows)
+        EXPECT_EQ(UnitValue(value, unit).toNormalizedString(digits), text);
 }
 
 TEST(UnitText, NumbersOfTheClassicLocaleAreThoseOfAStream)
