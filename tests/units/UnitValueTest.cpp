@@ -2,7 +2,9 @@
 
 #include "tests/units/sampleUnits.h"
 
+#include <algorithm>
 #include <cmath>
+#include <string>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -96,13 +98,18 @@ TEST(UnitValue, Normalisation)
 
 TEST(UnitValue, DecimalMagnitude)
 {
-    const std::tuple<double, int> rows[] = {
-        {0, 0},     {-0.0, 0},    {1, 1},       {9.99, 1},    {10, 2},   {999.9, 3},
-        {1e9, 10},  {1e10, 11},   {1e300, 11},  {0.999, -1},  {0.1, -1}, {0.0999, -2},
-        {1e-5, -5}, {1e-11, -11}, {9e-12, -12}, {-1000, -12}, {-1, -12}, {std::nan(""), -12},
+    // Each power of ten begins a magnitude, from which zero is left out; the ends are open.
+    const auto magnitudeOfPower = [](int power) {
+        return power < -11 ? -12 : std::min(power + (power >= 0 ? 1 : 0), 11);
     };
-    for (const auto& [value, magnitude] : rows)
-        EXPECT_EQ(decimalMagnitude(value), magnitude) << value;
+    for (int power = -13; power <= 12; ++power) {
+        const double value = std::stod("1e" + std::to_string(power));
+        EXPECT_EQ(decimalMagnitude(value), magnitudeOfPower(power)) << value;
+        EXPECT_EQ(decimalMagnitude(std::nextafter(value, 0)), magnitudeOfPower(power - 1)) << value;
+    }
+    EXPECT_EQ(decimalMagnitude(-0.0), 0);
+    EXPECT_EQ(decimalMagnitude(-1000), -12);
+    EXPECT_EQ(decimalMagnitude(std::nan("")), -12);
 }
 
 } // namespace
