@@ -2,6 +2,7 @@
 
 // The whole public object API.
 
+#include "pelmora/api/HTTPDownloader.h"
 #include "pelmora/api/ManagedXMLParser.h"
 #include "pelmora/api/NullReferenceError.h"
 #include "pelmora/api/UnitFacade.h"
