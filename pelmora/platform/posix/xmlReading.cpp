@@ -14,6 +14,9 @@ namespace
 
 constexpr int maxDepth = 256; // as in MSXML 6
 
+// libxml2 limits what general entities grow to, but not how often parameter entities are expanded.
+constexpr int maxParameterReferences = 10000;
+
 enum class Mode {
     withoutDocumentType, ///< texts of any length; stops at a document type declaration
     withLimits,          ///< libxml2's own limits, among them those of entities
@@ -42,6 +45,7 @@ private:
     static void declareEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId,
                               const xmlChar* systemId, xmlChar* content);
     static xmlEntity* entityOf(void* context, const xmlChar* name);
+    static xmlEntity* parameterEntityOf(void* context, const xmlChar* name);
 
     void stop();
 
@@ -49,6 +53,7 @@ private:
     const char* encoding_;
     bool metDocumentType_ = false;
     bool stopped_ = false;
+    int parameterReferences_ = 0;
     xmlChar nothing_[1] = {0};
     xmlEntity emptyEntity_ = {};
     std::unique_ptr<xmlParserCtxt, ContextFree> context_;
@@ -69,6 +74,7 @@ Reading::Reading(Mode mode, const char* encoding)
     context_->sax->internalSubset = startDocumentType;
     context_->sax->entityDecl = declareEntity;
     context_->sax->getEntity = entityOf;
+    context_->sax->getParameterEntity = parameterEntityOf;
     // Asked for the external part of a document type, too.
     context_->sax->resolveEntity = [](void*, const xmlChar*, const xmlChar*) {
         return static_cast<xmlParserInput*>(nullptr);
@@ -131,6 +137,15 @@ xmlEntity* Reading::entityOf(void* context, const xmlChar* name)
     Reading& reading = of(context);
     reading.emptyEntity_.name = entity->name;
     return &reading.emptyEntity_;
+}
+
+xmlEntity* Reading::parameterEntityOf(void* context, const xmlChar* name)
+{
+    Reading& reading = of(context);
+    if (++reading.parameterReferences_ <= maxParameterReferences)
+        return xmlSAX2GetParameterEntity(context, name);
+    reading.stop();
+    return nullptr;
 }
 
 Tree Reading::tree(std::string_view bytes)
