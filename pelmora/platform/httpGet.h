@@ -40,7 +40,9 @@ using Deadline = std::optional<std::chrono::steady_clock::time_point>; ///< none
 /// response, which may be a failure or a redirect: neither is followed up. Credentials are given
 /// only when the server asks for them, by the Digest or the Basic scheme. Certificates are verified
 /// by the system's store. None when there is no connection, no trust, no complete response, or no
-/// time left: the deadline holds for name resolution, authentication and body together.
+/// time left: the deadline holds for name resolution, authentication and body together. None, too,
+/// when more comes than the stated length, where the system's client lets that be seen: WinHTTP
+/// does not.
 ///
 /// May run in several threads at once.
 std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCredentials* credentials,

@@ -54,6 +54,12 @@ TEST(Trust, DigestAuthentication)
     EXPECT_FALSE(download(url, "", ""));
 }
 
+TEST(Lengths, MoreThanStatedFails)
+{
+    const std::string url = std::string("http://127.0.0.1:") + std::getenv("PELMORA_HTTP_PORT");
+    EXPECT_FALSE(download(url + "/length/3"));
+}
+
 TEST(ChunkedBodies, MustComeToTheirEnd)
 {
     const std::string url = std::string("http://127.0.0.1:") + std::getenv("PELMORA_HTTP_PORT");

@@ -39,6 +39,18 @@ std::size_t keepBody(char* data, std::size_t one, std::size_t size, void* body) 
     }
 }
 
+/// Called by curl with all that passes. Counts the bytes of the last response's body as they come:
+/// curl itself drops without a word what comes beyond the stated length.
+int countBody(CURL*, curl_infotype type, char* data, std::size_t size, void* counter) noexcept
+{
+    auto& count = *static_cast<std::size_t*>(counter);
+    if (type == CURLINFO_HEADER_IN && std::string_view(data, size).starts_with("HTTP/"))
+        count = 0;
+    else if (type == CURLINFO_DATA_IN)
+        count += size;
+    return 0;
+}
+
 /// For curl, which takes no deadline; 0 when there is no time left.
 long millisecondsLeft(const Deadline& deadline)
 {
@@ -96,6 +108,10 @@ std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCreden
     curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
     curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, keepBody);
     curl_easy_setopt(handle, CURLOPT_WRITEDATA, &response.body);
+    std::size_t bodySize = 0;
+    curl_easy_setopt(handle, CURLOPT_VERBOSE, 1L);
+    curl_easy_setopt(handle, CURLOPT_DEBUGFUNCTION, countBody);
+    curl_easy_setopt(handle, CURLOPT_DEBUGDATA, &bodySize);
     setCertificates(handle);
     setDirectConnection(handle);
     if (credentials != nullptr) {
@@ -117,6 +133,8 @@ std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCreden
     response.location = header(handle, "Location").value_or("");
     if (!header(handle, "Transfer-Encoding"))
         response.contentLength = header(handle, "Content-Length");
+    if (response.contentLength && bodySize > response.body.size())
+        return std::nullopt;
     return response;
 }
 
