@@ -45,7 +45,8 @@ public:
         std::filesystem::remove(path_, ignored);
     }
 
-    std::string name() const { return path_.string(); }
+    /// In the ANSI code page, as the library takes it.
+    std::string name() const { return GString(std::u16string_view(path_.u16string())).to_narrow(); }
 
 private:
     std::filesystem::path path_;
