@@ -1,0 +1,51 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+// What the host must provide to ask an HTTP server for a resource.
+
+namespace Pelmora::Native::Platform
+{
+
+/// What an "http" or "https" address says, ready to be sent: ASCII without spaces, a host in lower
+/// case, a target that begins with '/' and has no fragment.
+struct HttpAddress {
+    bool secure = false;
+    std::string host;
+    std::uint16_t port = 80;
+    std::string target;
+};
+
+/// Bytes as the server is to get them; either may be empty.
+struct HttpCredentials {
+    std::string user;
+    std::string password;
+};
+
+struct HttpResponse {
+    int status = 0;
+    std::string location; ///< where a redirect leads; "" without one
+    /// The length as the server states it, not examined; none when it states none, or when the body
+    /// came in chunks, which have their own lengths.
+    std::optional<std::string> contentLength;
+    std::string body;
+};
+
+using Deadline = std::optional<std::chrono::steady_clock::time_point>; ///< none: no limit
+
+/// One request with GET, directly to the server whatever proxy the system names, and the whole
+/// response, which may be a failure or a redirect: neither is followed up. Credentials are given
+/// only when the server asks for them, by the Digest or the Basic scheme. Certificates are verified
+/// by the system's store. None when there is no connection, no trust, no complete response, or no
+/// time left: the deadline holds for name resolution, authentication and body together. None, too,
+/// when more comes than the stated length, where the system's client lets that be seen: WinHTTP
+/// does not.
+///
+/// May run in several threads at once.
+std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCredentials* credentials,
+                                    const Deadline& deadline);
+
+} // namespace Pelmora::Native::Platform

@@ -1,0 +1,141 @@
+#include "pelmora/platform/httpGet.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <new>
+#include <string_view>
+
+#include <curl/curl.h>
+
+namespace Pelmora::Native::Platform
+{
+namespace
+{
+
+struct HandleCleanup {
+    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+};
+using Handle = std::unique_ptr<CURL, HandleCleanup>;
+
+Handle newHandle()
+{
+    static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
+    Handle handle(initialised == CURLE_OK ? curl_easy_init() : nullptr);
+    if (handle == nullptr)
+        throw std::bad_alloc();
+    return handle;
+}
+
+/// Called by curl with a piece of the body; another number than the piece's size ends the transfer.
+std::size_t keepBody(char* data, std::size_t one, std::size_t size, void* body) noexcept
+{
+    try {
+        static_cast<std::string*>(body)->append(data, size);
+        return size * one;
+    } catch (const std::exception&) {
+        return 0;
+    }
+}
+
+/// Called by curl with all that passes. Counts the bytes of the last response's body as they come:
+/// curl itself drops without a word what comes beyond the stated length.
+int countBody(CURL*, curl_infotype type, char* data, std::size_t size, void* counter) noexcept
+{
+    auto& count = *static_cast<std::size_t*>(counter);
+    if (type == CURLINFO_HEADER_IN && std::string_view(data, size).starts_with("HTTP/"))
+        count = 0;
+    else if (type == CURLINFO_DATA_IN)
+        count += size;
+    return 0;
+}
+
+/// For curl, which takes no deadline; 0 when there is no time left.
+long millisecondsLeft(const Deadline& deadline)
+{
+    using std::chrono::milliseconds;
+    constexpr milliseconds::rep most = std::numeric_limits<int>::max();
+    if (!deadline)
+        return most;
+    const auto left = *deadline - std::chrono::steady_clock::now();
+    return std::clamp<milliseconds::rep>(std::chrono::ceil<milliseconds>(left).count(), 0, most);
+}
+
+void setCertificates(CURL* handle)
+{
+    // OpenSSL's own settings, which libcurl leaves to its callers.
+    if (const char* file = std::getenv("SSL_CERT_FILE")) // NOLINT(concurrency-mt-unsafe)
+        curl_easy_setopt(handle, CURLOPT_CAINFO, file);
+    if (const char* folder = std::getenv("SSL_CERT_DIR")) // NOLINT(concurrency-mt-unsafe)
+        curl_easy_setopt(handle, CURLOPT_CAPATH, folder);
+}
+
+void setDirectConnection(CURL* handle)
+{
+    curl_easy_setopt(handle, CURLOPT_PROXY, "");
+    curl_easy_setopt(handle, CURLOPT_NOPROXY, "*");
+}
+
+void setTimeLimit(CURL* handle, long milliseconds, bool limited)
+{
+    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, limited ? milliseconds : 0L);
+    // Five minutes when not set.
+    curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
+}
+
+std::optional<std::string> header(CURL* handle, const char* name)
+{
+    curl_header* found = nullptr;
+    if (curl_easy_header(handle, name, 0, CURLH_HEADER, -1, &found) != CURLHE_OK)
+        return std::nullopt;
+    return found->value;
+}
+
+} // namespace
+
+std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCredentials* credentials,
+                                    const Deadline& deadline)
+{
+    const Handle owner = newHandle();
+    CURL* const handle = owner.get();
+    const std::string url = (address.secure ? "https://" : "http://") + address.host + ":" +
+                            std::to_string(address.port) + address.target;
+    HttpResponse response;
+    curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
+    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
+    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, keepBody);
+    curl_easy_setopt(handle, CURLOPT_WRITEDATA, &response.body);
+    std::size_t bodySize = 0;
+    curl_easy_setopt(handle, CURLOPT_VERBOSE, 1L);
+    curl_easy_setopt(handle, CURLOPT_DEBUGFUNCTION, countBody);
+    curl_easy_setopt(handle, CURLOPT_DEBUGDATA, &bodySize);
+    setCertificates(handle);
+    setDirectConnection(handle);
+    if (credentials != nullptr) {
+        // More than one scheme makes curl wait for the server's choice.
+        curl_easy_setopt(handle, CURLOPT_HTTPAUTH, CURLAUTH_BASIC | CURLAUTH_DIGEST);
+        curl_easy_setopt(handle, CURLOPT_USERNAME, credentials->user.c_str());
+        curl_easy_setopt(handle, CURLOPT_PASSWORD, credentials->password.c_str());
+    }
+    const long left = millisecondsLeft(deadline);
+    if (left == 0)
+        return std::nullopt;
+    setTimeLimit(handle, left, deadline.has_value());
+
+    if (curl_easy_perform(handle) != CURLE_OK)
+        return std::nullopt;
+    long status = 0;
+    curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
+    response.status = static_cast<int>(status);
+    response.location = header(handle, "Location").value_or("");
+    if (!header(handle, "Transfer-Encoding"))
+        response.contentLength = header(handle, "Content-Length");
+    if (response.contentLength && bodySize > response.body.size())
+        return std::nullopt;
+    return response;
+}
+
+} // namespace Pelmora::Native::Platform

@@ -1,0 +1,63 @@
+#include "pelmora/platform/wholeFile.h"
+
+#include "pelmora/platform/posix/utf16.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+
+#include <unistd.h>
+
+namespace Pelmora::Native::Platform
+{
+namespace
+{
+
+struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, Closer>;
+
+std::error_code lastError()
+{
+    return {errno, std::system_category()};
+}
+
+} // namespace
+
+std::error_code readWholeFile(const FileName& name, std::string& bytes)
+{
+    const File file(std::fopen(toUtf8(name).c_str(), "rb"));
+    if (file == nullptr)
+        return lastError();
+    bytes.clear();
+    std::array<char, 65536> piece;
+    while (const std::size_t read = std::fread(piece.data(), 1, piece.size(), file.get()))
+        bytes.append(piece.data(), read);
+    return std::ferror(file.get()) != 0 ? lastError() : std::error_code();
+}
+
+std::error_code deleteFile(const FileName& name)
+{
+    if (unlink(toUtf8(name).c_str()) == 0 || errno == ENOENT)
+        return {};
+    return lastError();
+}
+
+std::error_code writeWholeFile(const FileName& name, std::string_view bytes)
+{
+    const std::string path = toUtf8(name);
+    File file(std::fopen(path.c_str(), "wb"));
+    if (file == nullptr)
+        return lastError();
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    // The last bytes leave the buffer only here.
+    if (std::fclose(file.release()) == 0 && written)
+        return {};
+    const std::error_code error = lastError();
+    unlink(path.c_str());
+    return error;
+}
+
+} // namespace Pelmora::Native::Platform

@@ -1,0 +1,162 @@
+#include "pelmora/platform/xmlDocument.h"
+
+#include "pelmora/platform/posix/utf16.h"
+#include "pelmora/platform/posix/xmlReading.h"
+
+#include <libxml/xmlsave.h>
+#include <libxml/xpath.h>
+
+namespace Pelmora::Native::Platform
+{
+namespace
+{
+
+struct ContextFree {
+    void operator()(xmlXPathContext* context) const { xmlXPathFreeContext(context); }
+};
+struct ResultFree {
+    void operator()(xmlXPathObject* object) const { xmlXPathFreeObject(object); }
+};
+struct BufferFree {
+    void operator()(xmlBuffer* buffer) const { xmlBufferFree(buffer); }
+};
+struct TextFree {
+    void operator()(xmlChar* text) const { xmlFree(text); }
+};
+
+std::string_view view(const xmlChar* text)
+{
+    return text == nullptr ? std::string_view() : reinterpret_cast<const char*>(text);
+}
+
+const xmlChar* chars(const std::string& utf8)
+{
+    return reinterpret_cast<const xmlChar*>(utf8.c_str());
+}
+
+std::string qualifiedName(const xmlNs* space, const xmlChar* localName)
+{
+    std::string name;
+    if (space != nullptr && space->prefix != nullptr)
+        name.append(view(space->prefix)).append(":");
+    return name.append(view(localName));
+}
+
+/// The node behind this one in document order, within `top`; null at the end. Goes by pointers
+/// alone, so that no depth can exhaust the stack. The content of an entity is not entered: where
+/// it counts, it stands in the tree itself.
+xmlNode* following(xmlNode* node, const xmlNode* top)
+{
+    if (node->children != nullptr && node->type != XML_ENTITY_REF_NODE)
+        return node->children;
+    while (node != top && node->next == nullptr)
+        node = node->parent;
+    return node == top ? nullptr : node->next;
+}
+
+/// The node as XML, with the namespaces that it has from outside.
+XmlDocument::Text outerXml(xmlNode* node)
+{
+    const Tree ownTree(xmlNewDoc(nullptr));
+    if (ownTree == nullptr)
+        throw std::bad_alloc();
+    ownTree->encoding =
+        xmlStrdup(chars("UTF-8")); // or other characters would be written as numbers
+    if (node->type == XML_ELEMENT_NODE) {
+        node = xmlDocCopyNode(node, ownTree.get(), 1);
+        if (node == nullptr)
+            throw std::bad_alloc();
+        xmlDocSetRootElement(ownTree.get(), node);
+    }
+    const std::unique_ptr<xmlBuffer, BufferFree> buffer(xmlBufferCreate());
+    xmlSaveCtxt* save = xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL);
+    if (save == nullptr)
+        throw std::bad_alloc();
+    xmlSaveTree(save, node);
+    xmlSaveClose(save);
+    return toUtf16(view(xmlBufferContent(buffer.get())));
+}
+
+} // namespace
+
+struct XmlDocument::Content {
+    Tree tree;
+};
+
+XmlDocument::XmlDocument() : content_(std::make_unique<Content>()) {}
+
+XmlDocument::~XmlDocument() = default;
+
+bool XmlDocument::parseText(View text)
+{
+    content_->tree = readXml(toUtf8(text), "UTF-8");
+    return content_->tree != nullptr;
+}
+
+bool XmlDocument::parseBytes(std::string_view bytes)
+{
+    content_->tree = readXml(bytes, nullptr);
+    return content_->tree != nullptr;
+}
+
+bool XmlDocument::hasRoot() const
+{
+    return content_->tree != nullptr;
+}
+
+XmlDocument::Text XmlDocument::rootAttribute(const Text& name) const
+{
+    const std::string wanted = toUtf8(name);
+    xmlNode* root = xmlDocGetRootElement(content_->tree.get());
+    for (xmlAttr* attribute = root->properties; attribute != nullptr; attribute = attribute->next) {
+        if (qualifiedName(attribute->ns, attribute->name) != wanted)
+            continue;
+        const std::unique_ptr<xmlChar, TextFree> value(
+            xmlNodeListGetString(content_->tree.get(), attribute->children, 1));
+        return toUtf16(view(value.get()));
+    }
+    // Declarations of namespaces are attributes too, which libxml2 keeps apart.
+    for (const xmlNs* space = root->nsDef; space != nullptr; space = space->next) {
+        const std::string prefix(view(space->prefix));
+        if (wanted == (prefix.empty() ? "xmlns" : "xmlns:" + prefix))
+            return toUtf16(view(space->href));
+    }
+    return {};
+}
+
+XmlDocument::Text XmlDocument::firstSelected(const Text& expression) const
+{
+    if (!hasRoot() || expression.find(WideChar(0)) != Text::npos)
+        return {};
+    const std::unique_ptr<xmlXPathContext, ContextFree> context(
+        xmlXPathNewContext(content_->tree.get()));
+    if (context == nullptr)
+        throw std::bad_alloc();
+    context->error = [](void*, xmlError*) {}; // otherwise it is written to standard error
+    const std::unique_ptr<xmlXPathObject, ResultFree> result(
+        xmlXPathEval(chars(toUtf8(expression)), context.get()));
+    if (result == nullptr || result->type != XPATH_NODESET ||
+        xmlXPathNodeSetIsEmpty(result->nodesetval))
+        return {};
+    return outerXml(xmlXPathNodeSetItem(result->nodesetval, 0));
+}
+
+XmlDocument::Text XmlDocument::textOfFirst(const Text& name) const
+{
+    if (!hasRoot())
+        return {};
+    const std::string wanted = toUtf8(name);
+    xmlNode* const root = xmlDocGetRootElement(content_->tree.get());
+    xmlNode* element = root;
+    while (element != nullptr &&
+           (element->type != XML_ELEMENT_NODE ||
+            (wanted != "*" && qualifiedName(element->ns, element->name) != wanted)))
+        element = following(element, root);
+    std::string text;
+    for (xmlNode* node = element; node != nullptr; node = following(node, element))
+        if (node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE)
+            text += view(node->content);
+    return toUtf16(text);
+}
+
+} // namespace Pelmora::Native::Platform

@@ -1,0 +1,184 @@
+#include "pelmora/platform/posix/xmlReading.h"
+
+#include <limits>
+#include <new>
+
+#include <libxml/SAX2.h>
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+
+namespace Pelmora::Native::Platform
+{
+namespace
+{
+
+constexpr int maxDepth = 256; // as in MSXML 6
+
+// libxml2 limits what general entities grow to, but not how often parameter entities are expanded.
+constexpr int maxParameterReferences = 10000;
+
+enum class Mode {
+    withoutDocumentType, ///< texts of any length; stops at a document type declaration
+    withLimits,          ///< libxml2's own limits, among them those of entities
+};
+
+/// One run of libxml2's parser with callbacks that refuse what must not be read.
+class Reading
+{
+public:
+    Reading(Mode mode, const char* encoding);
+
+    Tree tree(std::string_view bytes);
+    bool metDocumentType() const { return metDocumentType_; }
+
+private:
+    struct ContextFree {
+        void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+    };
+
+    static Reading& of(void* context);
+    static void startElement(void* context, const xmlChar* name, const xmlChar* prefix,
+                             const xmlChar* uri, int spaceCount, const xmlChar** spaces,
+                             int attributeCount, int defaultedCount, const xmlChar** attributes);
+    static void startDocumentType(void* context, const xmlChar* name, const xmlChar* publicId,
+                                  const xmlChar* systemId);
+    static void declareEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId,
+                              const xmlChar* systemId, xmlChar* content);
+    static xmlEntity* entityOf(void* context, const xmlChar* name);
+    static xmlEntity* parameterEntityOf(void* context, const xmlChar* name);
+
+    void stop();
+
+    Mode mode_;
+    const char* encoding_;
+    bool metDocumentType_ = false;
+    bool stopped_ = false;
+    int parameterReferences_ = 0;
+    xmlChar nothing_[1] = {0};
+    xmlEntity emptyEntity_ = {};
+    std::unique_ptr<xmlParserCtxt, ContextFree> context_;
+};
+
+Reading::Reading(Mode mode, const char* encoding)
+    : mode_(mode), encoding_(encoding), context_(xmlNewParserCtxt())
+{
+    if (context_ == nullptr)
+        throw std::bad_alloc();
+    emptyEntity_.type = XML_ENTITY_DECL;
+    emptyEntity_.etype = XML_INTERNAL_GENERAL_ENTITY;
+    emptyEntity_.content = nothing_;
+    emptyEntity_.orig = nothing_;
+
+    context_->_private = this;
+    context_->sax->startElementNs = startElement;
+    context_->sax->internalSubset = startDocumentType;
+    context_->sax->entityDecl = declareEntity;
+    context_->sax->getEntity = entityOf;
+    context_->sax->getParameterEntity = parameterEntityOf;
+    // Asked for the external part of a document type, too.
+    context_->sax->resolveEntity = [](void*, const xmlChar*, const xmlChar*) {
+        return static_cast<xmlParserInput*>(nullptr);
+    };
+}
+
+Reading& Reading::of(void* context)
+{
+    return *static_cast<Reading*>(static_cast<xmlParserCtxt*>(context)->_private);
+}
+
+void Reading::stop()
+{
+    stopped_ = true;
+    xmlStopParser(context_.get());
+}
+
+void Reading::startElement(void* context, const xmlChar* name, const xmlChar* prefix,
+                           const xmlChar* uri, int spaceCount, const xmlChar** spaces,
+                           int attributeCount, int defaultedCount, const xmlChar** attributes)
+{
+    if (static_cast<xmlParserCtxt*>(context)->nodeNr >= maxDepth)
+        of(context).stop();
+    else
+        xmlSAX2StartElementNs(context, name, prefix, uri, spaceCount, spaces, attributeCount,
+                              defaultedCount, attributes);
+}
+
+void Reading::startDocumentType(void* context, const xmlChar* name, const xmlChar* publicId,
+                                const xmlChar* systemId)
+{
+    Reading& reading = of(context);
+    reading.metDocumentType_ = true;
+    if (reading.mode_ == Mode::withoutDocumentType)
+        reading.stop();
+    else
+        xmlSAX2InternalSubset(context, name, publicId, systemId);
+}
+
+void Reading::declareEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId,
+                            const xmlChar* systemId, xmlChar* content)
+{
+    // libxml2 opens external parameter entities when it substitutes any; an empty one is not
+    // opened.
+    if (type == XML_EXTERNAL_PARAMETER_ENTITY)
+        xmlSAX2EntityDecl(context, name, XML_INTERNAL_PARAMETER_ENTITY, nullptr, nullptr,
+                          of(context).nothing_);
+    else
+        xmlSAX2EntityDecl(context, name, type, publicId, systemId, content);
+}
+
+xmlEntity* Reading::entityOf(void* context, const xmlChar* name)
+{
+    xmlEntity* entity = xmlSAX2GetEntity(context, name);
+    const bool isExternal =
+        entity != nullptr && entity->etype == XML_EXTERNAL_GENERAL_PARSED_ENTITY;
+    // In an attribute's value it is an error, which the parser reports.
+    if (!isExternal || static_cast<xmlParserCtxt*>(context)->instate == XML_PARSER_ATTRIBUTE_VALUE)
+        return entity;
+    Reading& reading = of(context);
+    reading.emptyEntity_.name = entity->name;
+    return &reading.emptyEntity_;
+}
+
+xmlEntity* Reading::parameterEntityOf(void* context, const xmlChar* name)
+{
+    Reading& reading = of(context);
+    if (++reading.parameterReferences_ <= maxParameterReferences)
+        return xmlSAX2GetParameterEntity(context, name);
+    reading.stop();
+    return nullptr;
+}
+
+Tree Reading::tree(std::string_view bytes)
+{
+    int options = XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_NOERROR |
+                  XML_PARSE_NOWARNING;
+    if (encoding_ != nullptr)
+        options |= XML_PARSE_IGNORE_ENC;
+    if (mode_ == Mode::withoutDocumentType)
+        options |= XML_PARSE_HUGE;
+    Tree result(xmlCtxtReadMemory(context_.get(), bytes.data(), static_cast<int>(bytes.size()),
+                                  nullptr, encoding_, options));
+    if (context_->errNo == XML_ERR_NO_MEMORY)
+        throw std::bad_alloc();
+    // The parser takes a NUL behind the root for the end of the input.
+    const xmlParserInput* input = context_->input;
+    const bool readToEnd = input != nullptr && input->cur == input->end;
+    const bool isSound =
+        !stopped_ && readToEnd && context_->wellFormed != 0 && context_->nsWellFormed != 0;
+    return isSound ? std::move(result) : nullptr;
+}
+
+} // namespace
+
+Tree readXml(std::string_view bytes, const char* encoding)
+{
+    if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
+        return nullptr;
+    Reading lenient(Mode::withoutDocumentType, encoding);
+    Tree result = lenient.tree(bytes);
+    if (!lenient.metDocumentType())
+        return result;
+    return Reading(Mode::withLimits, encoding).tree(bytes);
+}
+
+} // namespace Pelmora::Native::Platform

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "pelmora/platform/wideChar.h"
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+// What the host must provide to read, delete and write files whole.
+//
+// Each function gives the system's error, whose message says the reason, or none. File names are
+// UTF-16; a system whose names are bytes gets them in UTF-8. Safe to call from several threads.
+
+namespace Pelmora::Native::Platform
+{
+
+using FileName = std::basic_string<WideChar>;
+
+/// Replaces `bytes` by the file's content; after an error they hold nothing of use.
+std::error_code readWholeFile(const FileName& name, std::string& bytes);
+
+/// A file that is not there is no error; a folder is never deleted.
+std::error_code deleteFile(const FileName& name);
+
+/// Makes or truncates the file. One that could not be written to its end is deleted, because nobody
+/// could tell it from a whole one.
+std::error_code writeWholeFile(const FileName& name, std::string_view bytes);
+
+} // namespace Pelmora::Native::Platform

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "pelmora/platform/httpGet.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <windows.h>
+
+#include <winhttp.h>
+
+namespace Pelmora::Native::Platform
+{
+
+/// One request to a server through WinHTTP and its response, every step within the deadline.
+///
+/// WinHTTP runs in its asynchronous mode, because the limits of the synchronous one are for each
+/// step and not for the whole.
+class Exchange
+{
+public:
+    Exchange(bool secure, const std::wstring& host, INTERNET_PORT port, const std::wstring& target,
+             const Deadline& deadline);
+    Exchange(const Exchange&) = delete;
+    Exchange& operator=(const Exchange&) = delete;
+    ~Exchange();
+
+    /// Sends the request with these further header lines and receives the response's head. May be
+    /// called again to answer a demand for authentication.
+    bool send(const std::wstring& headers);
+
+    DWORD status() const;
+
+    /// One of WINHTTP_QUERY_*; bytes as they came.
+    std::optional<std::string> header(DWORD query) const;
+
+    bool readBody(std::string& body);
+
+    /// Null when it could not be made; nothing can be sent then.
+    HINTERNET request() const noexcept { return request_.get(); }
+
+private:
+    class Steps;
+
+    struct HandleClose {
+        void operator()(void* handle) const { WinHttpCloseHandle(handle); }
+    };
+    using Handle = std::unique_ptr<void, HandleClose>;
+
+    std::shared_ptr<Steps> steps_;
+    Handle session_;
+    Handle connection_;
+    Handle request_;
+    Deadline deadline_;
+};
+
+} // namespace Pelmora::Native::Platform

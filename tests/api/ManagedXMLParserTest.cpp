@@ -1,0 +1,247 @@
+#include "pelmora/pelmora.h"
+
+#include "tests/TemporaryFolder.h"
+#include "tests/printing.h"
+
+#include <chrono>
+#include <tuple>
+
+#include <gtest/gtest.h>
+
+namespace ManagedXML
+{
+namespace
+{
+
+using Pelmora::TemporaryFolder;
+
+GString repeated(const char16_t* text, int count)
+{
+    GString result;
+    for (int i = 0; i < count; ++i)
+        result += text;
+    return result;
+}
+
+GString element(const GString& xml, const GString& attribute, const GString& value)
+{
+    ManagedXMLParser parser;
+    EXPECT_TRUE(parser.parseFromString(xml)) << testing::PrintToString(xml);
+    return parser.getElementWithAttributeValue(attribute, value);
+}
+
+TEST(ManagedXMLParser, ElementWithAttributeValue)
+{
+    const std::tuple<GString, GString, GString, GString> rows[] = {
+        {u"<s v='1'><Action><Event id='x'/></Action></s>", u"id", u"x", u"<Event id=\"x\"/>"},
+        {u"<s><Action><Event id='x'>1</Event><Event id='x'>2</Event></Action></s>", u"id", u"x",
+         u"<Event id=\"x\">1</Event>"},
+        {u"<s><Action><b><Event id='x'>deep</Event></b></Action><Action><Event id='x'>y</Event>"
+         u"</Action></s>",
+         u"id", u"x", u"<Event id=\"x\">y</Event>"},
+        {u"<Action><Event id='&lt;&#x65E5;&quot;'/></Action>", u"id", u"<\u65E5\"", u""},
+        {u"<Action><Event id='x'/></Action>", u"id", u"X", u""},
+        {u"<Action><Event id='x'/></Action>", u"id", u"x\" or \"1\"=\"1", u"<Event id=\"x\"/>"},
+        {u"<Action><Event id='x'/></Action>", u"id", u"\"", u""},
+        {u"<Action><Event id='x'/></Action>", u"", u"x", u""},
+        {u"<Action><Event id='x'/></Action>", u"id", u"x\"] = \"x\" or //a[@b=\"", u""},
+        {u"<Action xmlns='urn:n'><Event id='x'/></Action>", u"id", u"x", u""},
+        {u"<Action xmlns:p='urn:n'><Event p:id='x'/></Action>", u"p:id", u"x", u""},
+        {u"<p:Action xmlns:p='urn:n'><p:Event id='x'/></p:Action>", u"id", u"x", u""},
+    };
+    for (const auto& [xml, attribute, value, expected] : rows)
+        EXPECT_EQ(element(xml, attribute, value), expected) << testing::PrintToString(xml);
+
+    // How characters are written is the parser's choice; that they are the same is not.
+    ManagedXMLParser taken;
+    EXPECT_TRUE(taken.parseFromString(element(
+        u"<Action><Event id='&lt;&#x65E5;'>\U0001F600</Event></Action>", u"id", u"<\u65E5")));
+    EXPECT_EQ(taken.getAttribute(u"id"), u"<\u65E5");
+    EXPECT_EQ(taken.getElement(u"Event"), u"\U0001F600");
+}
+
+TEST(ManagedXMLParser, TextAndAttributes)
+{
+    ManagedXMLParser parser;
+    ASSERT_TRUE(parser.parseFromString(
+        u"<?xml version='1.0' encoding='iso-8859-1'?><!DOCTYPE r [<!ENTITY e 'value'>"
+        u"<!ATTLIST r d CDATA 'given'>]>"
+        u"<r a='1' p:a='2' empty='' mixed='&lt;&#233;&e;' xmlns:p='urn:n'>"
+        u"<p:x>prefixed</p:x><x> one <b>two</b> <![CDATA[<3>]]><!-- not --><?nor this?>&amp; </x>"
+        u"<x>second</x><none/><entity>&e;</entity><\u65E5>\U0001F600</\u65E5></r>"));
+    const std::tuple<GString, GString> elements[] = {
+        {u"x", u" one two <3>& "},
+        {u"p:x", u"prefixed"},
+        {u"q:x", u""},
+        {u"none", u""},
+        {u"entity", u"value"},
+        {u"missing", u""},
+        {u"", u""},
+        {u"x'", u""},
+        {u"\u65E5", u"\U0001F600"},
+        {u"r", u"prefixed one two <3>& secondvalue\U0001F600"},
+        {u"*", u"prefixed one two <3>& secondvalue\U0001F600"},
+    };
+    for (const auto& [name, text] : elements)
+        EXPECT_EQ(parser.getElement(name), text) << testing::PrintToString(name);
+
+    const std::tuple<GString, GString> attributes[] = {
+        {u"a", u"1"},
+        {u"p:a", u"2"},
+        {u"A", u""},
+        {u"empty", u""},
+        {u"mixed", u"<\u00E9value"},
+        {u"d", u"given"},
+        {u"w", u""},
+        {u"xmlns:p", u"urn:n"},
+        {u"not a name", u""},
+    };
+    for (const auto& [name, value] : attributes)
+        EXPECT_EQ(parser.getAttribute(name), value) << testing::PrintToString(name);
+
+    ASSERT_TRUE(parser.parseFromString("<r a='\xE9'><Action><Event \xE9='\xE9'/></Action></r>"));
+    EXPECT_EQ(parser.getAttribute("a"), u"\u00E9");
+    EXPECT_NE(parser.getElementWithAttributeValue("\xE9", "\xE9"), u"");
+    EXPECT_EQ(parser.getElement("Action"), u"");
+}
+
+TEST(ManagedXMLParser, FilesInTheirEncodings)
+{
+    const TemporaryFolder folder;
+    const std::string utf16 = {'\xFF', '\xFE', '<', 0,   'r', 0,   '>', 0,   '\xE9',
+                               0,      '<',    0,   '/', 0,   'r', 0,   '>', 0};
+    const std::string rows[] = {
+        "<r>\xC3\xA9</r>",
+        "\xEF\xBB\xBF<r>\xC3\xA9</r>",
+        "<?xml version='1.0' encoding='ISO-8859-1'?><r>\xE9</r>",
+        utf16,
+    };
+    ManagedXMLParser parser;
+    for (const auto& bytes : rows) {
+        TemporaryFolder::write(folder.path(u"caf\u00E9 1.xml"), bytes);
+        EXPECT_TRUE(parser.parseFromFile((folder.name("caf\xE9 1.xml")).c_str())) << bytes;
+        EXPECT_EQ(parser.getElement(u"r"), u"\u00E9") << bytes;
+    }
+    EXPECT_FALSE(parser.parseFromFile(""));
+    EXPECT_FALSE(parser.parseFromFile(u""));
+    EXPECT_EQ(parser.getElement(u"r"), u"\u00E9");
+
+    TemporaryFolder::write(folder.path("bad.xml"), "<r>\xE9</r>");
+    EXPECT_FALSE(parser.parseFromFile(folder.name("bad.xml").c_str()));
+    EXPECT_EQ(parser.getElement(u"r"), u"");
+}
+
+TEST(ManagedXMLParser, FailuresThatAreExceptions)
+{
+    ManagedXMLParser parser;
+    EXPECT_THROW(parser.getElement(u"x"), NoDocumentError);
+    EXPECT_THROW(parser.getAttribute(u"x"), NoDocumentError);
+    EXPECT_THROW(parser.getElementWithAttributeValue(u"x", u"y"), NoDocumentError);
+
+    ASSERT_TRUE(parser.parseFromString(u"<r a='1'>text</r>"));
+    const TemporaryFolder folder;
+    const std::string missing = folder.name("missing.xml");
+    try {
+        parser.parseFromFile(missing.c_str());
+        ADD_FAILURE();
+    } catch (const FileError& error) {
+        const std::string message = error.what();
+        EXPECT_NE(message.find(missing), std::string::npos) << message;
+        EXPECT_NE(message.find(std::error_code(2, std::system_category()).message()),
+                  std::string::npos)
+            << message;
+    }
+    EXPECT_EQ(parser.getElement(u"r"), u"");
+    EXPECT_THROW(parser.getAttribute(u"a"), NoDocumentError);
+    EXPECT_THROW(parser.parseFromFile(folder.name("").c_str()), FileError);
+    const char* const null = nullptr;
+    EXPECT_THROW(parser.parseFromString(null), Pelmora::NullReferenceError);
+    EXPECT_THROW(parser.parseFromFile(null), Pelmora::NullReferenceError);
+    EXPECT_THROW(parser.getElement(null), Pelmora::NullReferenceError);
+    EXPECT_EQ(&ManagedXMLParser::sGet(), &ManagedXMLParser::sGet());
+}
+
+TEST(ManagedXMLParser, MalformedTextGivesFalseAndForgetsTheDocument)
+{
+    const GString rows[] = {
+        // tags and nesting
+        u"", u" ", u"text", u"<a>", u"<a></b>", u"<a></a", u"<a/><b/>", u"<a/>text", u"</a>",
+        u"<a><b></a></b>", u"< a/>",
+        // attributes
+        u"<a b/>", u"<a b=c/>", u"<a b='1' b='2'/>", u"<a b='1'c='2'/>", u"<a b='<'/>",
+        u"<a b='1/>", u"<a b='&'/>",
+        // names
+        u"<1/>", u"<a 1='x'/>", u"<-a/>",
+        // references and entities
+        u"<a>&b;</a>", u"<a>&</a>", u"<a>&#0;</a>", u"<a>&#xD800;</a>", u"<a>&#x;</a>",
+        u"<a>&#12</a>", u"<!DOCTYPE a [<!ENTITY e '&e;'>]><a>&e;</a>",
+        u"<!DOCTYPE a [<!ENTITY e '<b>'>]><a>&e;</a>",
+        u"<!DOCTYPE a [<!ENTITY e SYSTEM 'none'>]><a b='&e;'/>",
+        // characters
+        u"<a>\u0001</a>", u"<a>\uFFFE</a>", u"<a>]]></a>",
+        GString(GString::Text{'<', 'a', '/', '>', 0}),
+        GString(GString::Text{'<', 'a', '>', 0xD83D, '<', '/', 'a', '>'}),
+        // CDATA, comments and processing instructions
+        u"<a><![CDATA[</a>", u"<a><![cdata[x]]></a>", u"<![CDATA[x]]>", u"<a><!-- -- --></a>",
+        u"<a><!-- </a>", u"<a><?xml version='1.0'?></a>", u"<a><? x?></a>", u"<a><?x</a>",
+        // declarations
+        u" <?xml version='1.0'?><a/>", u"<?xml encoding='utf-8'?><a/>",
+        u"<?xml version='1.0' standalone='maybe'?><a/>", u"<?xml version='1.0' encoding='?'?><a/>",
+        u"<!DOCTYPE a [<!ELEMENT a>]><a/>", u"<a/><!DOCTYPE a>"};
+    ManagedXMLParser parser;
+    for (const auto& xml : rows) {
+        ASSERT_TRUE(parser.parseFromString(u"<a>before</a>"));
+        EXPECT_FALSE(parser.parseFromString(xml)) << testing::PrintToString(xml);
+        EXPECT_EQ(parser.getElement(u"a"), u"") << testing::PrintToString(xml);
+        EXPECT_EQ(parser.getElementWithAttributeValue(u"a", u"b"), u"");
+    }
+}
+
+TEST(ManagedXMLParser, NothingOutsideIsOpened)
+{
+    const TemporaryFolder folder;
+    TemporaryFolder::write(folder.path("text"), "secret");
+    TemporaryFolder::write(folder.path("entities"), "<!ENTITY f 'secret'>");
+    const auto system = [&](const char* name) {
+        const std::string file = folder.path(name).generic_string();
+        return u"SYSTEM '" + GString(std::string_view(file)) + u"'";
+    };
+    ManagedXMLParser parser;
+    for (const auto& subset : {u"[<!ENTITY e " + system("text") + u">]", system("entities"),
+                               u"[<!ENTITY % p " + system("entities") + u"> %p;<!ENTITY e ''>]"}) {
+        // Whether a reference to what was not read is an error depends on the parser.
+        for (const char16_t* reference : {u"", u"&e;", u"&f;"}) {
+            const bool parsed = parser.parseFromString(GString(u"<!DOCTYPE a ") + subset +
+                                                       u"><a>[" + reference + u"]</a>");
+            EXPECT_TRUE(parsed || *reference != 0) << testing::PrintToString(subset);
+            EXPECT_EQ(parser.getElement(u"a"), parsed ? u"[]" : u"")
+                << testing::PrintToString(subset);
+        }
+    }
+}
+
+TEST(ManagedXMLParser, HostileDocumentsEndSoon)
+{
+    GString bomb = u"<!DOCTYPE a [<!ENTITY e0 'lol'>";
+    for (int i = 1; i < 10; ++i) {
+        const GString reference = GString(u"&e") + GString::from_number(i - 1, "%d") + u";";
+        bomb += GString(u"<!ENTITY e") + GString::from_number(i, "%d") + u" '";
+        for (int k = 0; k < 10; ++k)
+            bomb += reference;
+        bomb += u"'>";
+    }
+    const GString nested = repeated(u"<a>", 100000) + repeated(u"</a>", 100000);
+    // The clock is the point: these documents are made to cost time.
+    const auto start = std::chrono::steady_clock::now();
+    ManagedXMLParser parser;
+    EXPECT_FALSE(parser.parseFromString(bomb + u"]><a>&e9;</a>"));
+    EXPECT_FALSE(parser.parseFromString(nested));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+    EXPECT_TRUE(parser.parseFromString(repeated(u"<a>", 200) + repeated(u"</a>", 200)));
+
+    const GString large(GString::Text(50U << 20U, 'x'));
+    EXPECT_TRUE(parser.parseFromString(u"<a>" + large + u"</a>"));
+}
+
+} // namespace
+} // namespace ManagedXML
