@@ -7,6 +7,7 @@
 
 #include "pelmora/pelmora.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <iostream>
 #include <random>
@@ -67,7 +68,7 @@ bool printEvent(const ManagedXMLParser& document, const char* attribute, const c
     return !event.empty();
 }
 
-ExitStatus run(const std::string& address, char** pairs, int pairCount)
+ExitStatus run(const std::string& address, char** pairs, std::ptrdiff_t pairCount)
 {
     const TemporaryFile file;
     if (!HTTPDownloader::DownloadFile(address.c_str(), file.name().c_str(),
@@ -83,7 +84,7 @@ ExitStatus run(const std::string& address, char** pairs, int pairCount)
     std::cout << "Scenario: " << document.getElement("Title").to_utf8() << " (version "
               << version.to_utf8() << ")\n";
     bool all = true;
-    for (int i = 0; i < pairCount; ++i)
+    for (std::ptrdiff_t i = 0; i < pairCount; ++i)
         all = printEvent(document, pairs[2 * i], pairs[2 * i + 1]) && all;
     return all ? allFound : someNotFound;
 }

@@ -22,8 +22,8 @@ public:
     ///
     /// Goes directly to the server, whatever proxy the system is set to, and follows up to 50
     /// redirects, but none from https to http. The system's store says which certificates are
-    /// trusted; on Linux SSL_CERT_FILE and SSL_CERT_DIR replace it. The body is held in memory.
-    /// Never throws. Several threads may download at once.
+    /// trusted; on Linux SSL_CERT_FILE names another one, and SSL_CERT_DIR a further one. The body
+    /// is held in memory. Never throws. Several threads may download at once.
     static bool DownloadFile(const char* url, const char* filepath, int timeoutMs, const char* user,
                              const char* pass);
 };
