@@ -40,14 +40,6 @@ std::optional<std::string> fileContent(const std::string& path)
     return std::nullopt;
 }
 
-bool hasCatalogueEnding(std::string_view path)
-{
-    if (path.size() <= 3)
-        return false;
-    const std::string_view ending = path.substr(path.size() - 3);
-    return ending[0] == '.' && (ending[1] | 0x20) == 'm' && (ending[2] | 0x20) == 'o';
-}
-
 std::uint32_t byteSwapped(std::uint32_t value)
 {
     return value >> 24 | (value >> 8 & 0xFF00U) | (value << 8 & 0xFF0000U) | value << 24;
@@ -92,9 +84,17 @@ void appendEscaped(std::string& po, std::string_view text)
 
 } // namespace
 
+bool endsInMo(std::string_view path) noexcept
+{
+    if (path.size() < 3)
+        return false;
+    const std::string_view ending = path.substr(path.size() - 3);
+    return ending[0] == '.' && (ending[1] | 0x20) == 'm' && (ending[2] | 0x20) == 'o';
+}
+
 bool Catalogue::load(std::string path)
 {
-    if (!hasCatalogueEnding(path))
+    if (path.size() <= 3 || !endsInMo(path))
         path += ".mo";
     *this = Catalogue();
     std::optional<std::string> content = fileContent(path);

@@ -11,6 +11,9 @@
 namespace Pelmora::Native
 {
 
+/// Whether a path ends in ".mo", in upper or lower case.
+PELMORA_API bool endsInMo(std::string_view path) noexcept;
+
 /// One compiled message catalogue in the ".mo" format of GNU gettext (its manual, "The Format of
 /// GNU MO Files"), of either byte order, with or without hash table. The file is held whole and
 /// searched in place; contexts and plural forms are not known, so that of plural forms the first is

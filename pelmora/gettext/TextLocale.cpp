@@ -55,9 +55,7 @@ std::string languageOf(const std::string& path)
         return {};
     if (path.size() == 2)
         return path;
-    const std::string_view ending = std::string_view(path).substr(path.size() - 3);
-    const bool isFile = ending[0] == '.' && (ending[1] | 0x20) == 'm' && (ending[2] | 0x20) == 'o';
-    const std::size_t afterLanguage = path.size() - (isFile ? 3 : 0);
+    const std::size_t afterLanguage = path.size() - (endsInMo(path) ? 3 : 0);
     if (afterLanguage < 2)
         throw std::out_of_range("invalid string position");
     return path.substr(afterLanguage - 2, 2);
