@@ -143,9 +143,11 @@ constexpr PowerTable makePowerTable()
 
 constexpr PowerTable powerTable = makePowerTable();
 
-double factorPower(double base, std::int32_t exponent) noexcept
+double rareIsoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept
 {
-    return power(base, exponent);
+    const std::size_t prefixAt = prefixIndex(prefix);
+    const double prefixFactor = prefixAt < prefixRows.size() ? prefixRows[prefixAt].factor : 0;
+    return power(prefixFactor * kindRow(kind).factor, exponent);
 }
 
 } // namespace Pelmora::Native

@@ -23,20 +23,19 @@ using PowerTable = std::array<std::array<PowerRow, 8>, 16>;
 
 extern const PowerTable powerTable;
 
-/// Any power; 0 to a negative power is infinity. Requires: `base` is a product of the factors or 0.
-double factorPower(double base, std::int32_t exponent) noexcept;
+/// `isoFactor` of what is not in the table.
+double rareIsoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept;
 
 /// (prefix factor x kind factor) to the power `exponent`: the factor from one prefixed unit to its
-/// ISO kind. A prefix out of range has the factor 0, a kind out of range 1.
+/// ISO kind. A prefix out of range has the factor 0, whose negative powers are infinite; a kind out
+/// of range has the factor 1.
 inline double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept
 {
     const std::size_t prefixAt = prefixIndex(prefix);
     const auto exponentAt =
         static_cast<std::uint32_t>(exponent) + static_cast<std::uint32_t>(powerTableReach);
-    if (prefixAt >= prefixRows.size())
-        return factorPower(0, exponent);
-    if (exponentAt > 2 * powerTableReach)
-        return factorPower(prefixRows[prefixAt].factor * kindRow(kind).factor, exponent);
+    if (prefixAt >= prefixRows.size() || exponentAt > 2 * powerTableReach) [[unlikely]]
+        return rareIsoFactor(prefix, kind, exponent);
     return powerTable[kindIndex(kind)][prefixAt][exponentAt];
 }
 
