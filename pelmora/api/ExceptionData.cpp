@@ -2,6 +2,7 @@
 
 #include "pelmora/platform/localTime.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace Pelmora
@@ -20,12 +21,10 @@ ExceptionData::DateTime now()
 
 GString messageOf(const std::exception& exception)
 {
-    const std::string_view text = exception.what();
-    try {
-        return GString::from_utf8(text);
-    } catch (const char*) {
-        return GString(text);
-    }
+    constexpr char16_t replacement = 0xFFFD;
+    const GString text(std::string_view(exception.what()), Native::utf8CodePage);
+    const bool isUtf8 = std::find(text.begin(), text.end(), replacement) == text.end();
+    return isUtf8 ? text : GString(std::string_view(exception.what()));
 }
 
 } // namespace

@@ -75,7 +75,8 @@ Native::Unit Unit::asNative() const
     const Elements& all = elementsOf(*this);
     Native::Unit product;
     for (std::size_t i = 0; i < all.size(); ++i)
-        product = product.mul(elementAt(all, i).asNative());
+        product.elements.push_back(
+            elementAt(all, i).asNative()); // what mul does, without its copies
     return product;
 }
 

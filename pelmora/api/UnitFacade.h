@@ -122,7 +122,8 @@ public:
     /// digits before the point, as far as prefixes reach.
     UnitValue toNormalized(int significantDigits) const;
 
-    /// "13.1 mL/hr": normalised, with exactly so many significant digits.
+    /// "13.1 mL/hr": normalised, with so many significant digits, as Native::formatSignificant
+    /// counts them.
     GString toNormalizedString(int significantDigits) const;
 
     /// "13.13 mL/hr": with so many digits after the point; negative for up to 6 significant digits.

@@ -97,7 +97,7 @@ std::string withoutDots(std::string_view target)
 
 bool hasScheme(std::string_view reference)
 {
-    const auto end = reference.find_first_of(":/?");
+    const auto end = reference.find_first_of(":/?#");
     return end != std::string_view::npos && end > 0 && reference[end] == ':';
 }
 

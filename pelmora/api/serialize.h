@@ -32,22 +32,27 @@ void serialize(Archive& archive, UnitValue& value)
     archive(value.value, value.unit);
 }
 
-/// Requires: the archive's text is what `GString::to_utf8` makes.
+/// Text in the archive that `GString::to_utf8` did not make throws what `GString::from_utf8`
+/// throws, a `const char*`.
 template <class Archive>
 void serialize(Archive& archive, ExceptionData& report)
 {
     const auto text = [&archive](GString& field) {
-        std::string utf8 = field.to_utf8();
+        const std::string before = field.to_utf8();
+        std::string utf8 = before;
         archive(utf8);
-        field = GString::from_utf8(utf8);
+        if (utf8 != before) // saving writes nothing
+            field = GString::from_utf8(utf8);
     };
     text(report.mSource);
     text(report.mTargetSite);
     text(report.mMessage);
     text(report.mStackTrace);
-    auto milliseconds = report.mDateTime.time_since_epoch().count();
+    const auto before = report.mDateTime.time_since_epoch().count();
+    auto milliseconds = before;
     archive(milliseconds, report.mPriority, report.mType);
-    report.mDateTime = ExceptionData::DateTime(ExceptionData::DateTime::duration(milliseconds));
+    if (milliseconds != before)
+        report.mDateTime = ExceptionData::DateTime(ExceptionData::DateTime::duration(milliseconds));
     text(report.mDestination);
     text(report.mParameters);
 }

@@ -136,9 +136,8 @@ std::string_view Catalogue::lookup(std::string_view msgid) const noexcept
 std::string Catalogue::to_po() const
 {
     std::string po;
-    // Strings of a sound file do not overlap: together they are no longer than the file. A hostile
-    // one could name the same long string in every slot.
-    std::size_t budget = data_.size();
+    // A hostile file could name the same long string in every slot. Sound ones share some at most.
+    std::size_t budget = 16 * data_.size() + (std::size_t(1) << 20);
     const std::uint32_t slots = hashSize_ >= smallestHashTable ? hashSize_ : count_;
     for (std::uint32_t slot = 0; slot < slots; ++slot) {
         const std::optional<std::uint32_t> entry = numberAt(hashTable_ + std::uint64_t(slot) * 4);
@@ -148,11 +147,14 @@ std::string Catalogue::to_po() const
             continue;
         const auto identifier = stringAt(identifiers_, *entry - 1);
         const auto translation = stringAt(translations_, *entry - 1);
+        // What was searched for its NUL, to the end of the file where there is none.
+        const std::size_t searched =
+            identifier.value_or(data_).size() + translation.value_or(data_).size();
+        if (searched > budget)
+            break;
+        budget -= searched;
         if (!identifier || !translation)
             continue;
-        if (identifier->size() + translation->size() > budget)
-            break;
-        budget -= identifier->size() + translation->size();
         po += "msgid\t\"";
         appendEscaped(po, *identifier);
         po += "\"\r\nmsgstr\t\"";
@@ -172,8 +174,8 @@ std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noe
     return swapped_ ? byteSwapped(value) : value;
 }
 
-/// The string of a descriptor, up to its NUL; nothing where the file ends before.
-std::optional<std::string_view> Catalogue::stringAt(std::uint64_t table,
+/// The file from the string of a descriptor on; nothing where it is outside.
+std::optional<std::string_view> Catalogue::fileFrom(std::uint64_t table,
                                                     std::uint32_t index) const noexcept
 {
     constexpr std::uint64_t descriptorSize = 8;
@@ -181,11 +183,26 @@ std::optional<std::string_view> Catalogue::stringAt(std::uint64_t table,
     const auto offset = numberAt(table + index * descriptorSize + offsetInDescriptor);
     if (!offset || *offset >= data_.size())
         return std::nullopt;
-    const std::string_view rest = std::string_view(data_).substr(*offset);
-    const std::size_t length = rest.find('\0');
+    return std::string_view(data_).substr(*offset);
+}
+
+/// The string of a descriptor, up to its NUL; nothing where the file ends before.
+std::optional<std::string_view> Catalogue::stringAt(std::uint64_t table,
+                                                    std::uint32_t index) const noexcept
+{
+    const auto rest = fileFrom(table, index);
+    const std::size_t length = rest ? rest->find('\0') : std::string_view::npos;
     if (length == std::string_view::npos)
         return std::nullopt;
-    return rest.substr(0, length);
+    return rest->substr(0, length);
+}
+
+/// Looks at no more of the file than `msgid` is long: many slots may name one long string.
+bool Catalogue::isIdentifier(std::uint32_t index, std::string_view msgid) const noexcept
+{
+    const auto rest = fileFrom(identifiers_, index);
+    return rest && rest->size() > msgid.size() && rest->starts_with(msgid) &&
+           (*rest)[msgid.size()] == '\0';
 }
 
 std::optional<std::uint32_t> Catalogue::indexOf(std::string_view msgid) const noexcept
@@ -223,7 +240,7 @@ std::optional<std::uint32_t> Catalogue::searchHashed(std::string_view msgid) con
         const auto entry = numberAt(hashTable_ + std::uint64_t(slot) * 4);
         if (!entry || *entry == 0)
             return std::nullopt;
-        if (*entry <= count_ && stringAt(identifiers_, *entry - 1) == msgid)
+        if (*entry <= count_ && isIdentifier(*entry - 1, msgid))
             return *entry - 1;
         slot = slot < hashSize_ - step ? slot + step : slot + step - hashSize_;
     }

@@ -42,6 +42,9 @@ public:
 
 private:
     std::optional<std::uint32_t> numberAt(std::uint64_t offset) const noexcept;
+    std::optional<std::string_view> fileFrom(std::uint64_t table,
+                                             std::uint32_t index) const noexcept;
+    bool isIdentifier(std::uint32_t index, std::string_view msgid) const noexcept;
     std::optional<std::string_view> stringAt(std::uint64_t table,
                                              std::uint32_t index) const noexcept;
     std::optional<std::uint32_t> indexOf(std::string_view msgid) const noexcept;

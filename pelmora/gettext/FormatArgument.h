@@ -37,8 +37,16 @@ public:
     {
     }
     FormatArgument(std::string_view text) : value_(text) {}
-    FormatArgument(const std::string& text) : value_(std::string_view(text)) {}
-    FormatArgument(std::basic_string_view<WideChar> text) : value_(WideText(text)) {}
+    template <class Unit>
+    requires std::same_as<Unit, WideChar> || std::same_as<Unit, char16_t>
+    FormatArgument(std::basic_string_view<Unit> text) : value_(WideText(text.begin(), text.end()))
+    {
+    }
+    template <class Unit>
+    FormatArgument(const std::basic_string<Unit>& text)
+        : FormatArgument(std::basic_string_view<Unit>(text))
+    {
+    }
     template <class Unit>
     requires std::same_as<Unit, WideChar> || std::same_as<Unit, char16_t>
     FormatArgument(const Unit* text) : value_(WideText())

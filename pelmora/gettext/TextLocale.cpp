@@ -111,6 +111,7 @@ void TextLocale::init(const std::string& path)
         if (loaded->load(path_))
             catalogue_ = std::move(loaded);
     }
+    catalogueIsUtf8_ = catalogue_ != nullptr && isUtf8(*catalogue_);
     initialised_ = true;
 }
 
@@ -162,8 +163,7 @@ translate_from_catalogue(std::string msgid) // NOLINT: by value, as hosts' trans
     const Catalogue* catalogue = gettext_locale.catalogue();
     if (catalogue == nullptr)
         return {};
-    const unsigned int codePage = isUtf8(*catalogue) ? utf8CodePage : gettext_locale.code_page();
-    return GString(catalogue->lookup(msgid), codePage);
+    return GString(catalogue->lookup(msgid), gettext_locale.catalogue_code_page());
 }
 
 void look_up_lab_unit_labels(const Catalogue& catalogue)

@@ -65,12 +65,19 @@ public:
     /// The catalogue in use; null when there is none.
     const Catalogue* catalogue() const noexcept { return catalogue_.get(); }
 
+    /// The code page of its text: UTF-8 where its header says so, otherwise that of the language.
+    unsigned int catalogue_code_page() const noexcept
+    {
+        return catalogueIsUtf8_ ? utf8CodePage : code_page();
+    }
+
     /// The catalogue's PO text. Requires: `catalogue()` is not null.
     std::string dump_catalogue() const { return catalogue_->to_po(); }
 
 private:
     Translator translator_ = nullptr;
     std::unique_ptr<Catalogue> catalogue_;
+    bool catalogueIsUtf8_ = false;
     std::string path_;
     std::string language_;
     bool initialised_ = false;

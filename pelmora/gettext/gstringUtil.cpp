@@ -108,14 +108,6 @@ TemporaryStrings& temporaryStrings()
     return strings.value;
 }
 
-GString fromArgument(const FormatArgument& argument, std::string_view format)
-{
-    std::array<char, 50> buffer = {};
-    const std::ptrdiff_t length = formatInto<char>(buffer, format, {&argument, 1});
-    const std::size_t used = length < 0 ? buffer.size() : static_cast<std::size_t>(length);
-    return GString(std::string_view(buffer.data(), used));
-}
-
 } // namespace
 
 GString::GString(std::string_view narrow, unsigned int codePage)
@@ -254,29 +246,12 @@ bool GString::to_bool(bool* ok) const noexcept
     return isTrue;
 }
 
-GString GString::from_number(std::int32_t value, std::string_view format)
+GString GString::fromArgument(const FormatArgument& number, std::string_view format)
 {
-    return fromArgument(value, format);
-}
-
-GString GString::from_number(std::uint32_t value, std::string_view format)
-{
-    return fromArgument(value, format);
-}
-
-GString GString::from_number(std::int64_t value, std::string_view format)
-{
-    return fromArgument(value, format);
-}
-
-GString GString::from_number(std::uint64_t value, std::string_view format)
-{
-    return fromArgument(value, format);
-}
-
-GString GString::from_number(double value, std::string_view format)
-{
-    return fromArgument(value, format);
+    std::array<char, 50> buffer = {};
+    const std::ptrdiff_t length = formatInto<char>(buffer, format, {&number, 1});
+    const std::size_t used = length < 0 ? buffer.size() : static_cast<std::size_t>(length);
+    return GString(std::string_view(buffer.data(), used));
 }
 
 GString GString::formatted(View format, std::span<const FormatArgument> arguments)

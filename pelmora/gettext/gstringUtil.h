@@ -30,9 +30,10 @@ concept Utf16Unit = std::same_as<T, WideChar> || std::same_as<T, char16_t>;
 /// one character, a supplementary character as the two units of its surrogate pair; nothing is ever
 /// normalised.
 ///
-/// Narrow text always comes with a Windows code page. Conversions never fail: characters without a
-/// counterpart become the code page's best fit or its default character, and an unknown code page
-/// gives an empty text. They end at the first NUL, except those from and to UTF-8 by name.
+/// Narrow text always comes with a Windows code page. Conversions by code page never fail:
+/// characters without a counterpart become the code page's best fit or its default character, and
+/// an unknown code page gives an empty text. They end at the first NUL, except to code page 65001,
+/// which is `to_utf8`, and those from and to UTF-8 by name. Pointers to text are never null.
 /// Conversions may run in several threads at once.
 class PELMORA_API GString
 {
@@ -64,7 +65,7 @@ public:
     /// "UTF8 error: source too large" for anything that is not well-formed.
     static GString from_utf8(std::string_view utf8);
 
-    /// The text in a code page, up to its first NUL.
+    /// The text in a code page, up to its first NUL; for 65001 `to_utf8`, NULs and all.
     std::string to_narrow(unsigned int codePage = ansiCodePage) const;
 
     /// UTF-8 of each unit on its own, so that a surrogate pair becomes six bytes, which `from_utf8`
@@ -105,17 +106,18 @@ public:
 
     /// The number by a printf-style narrow format with one conversion for it, cut after 50 bytes.
     /// Length modifiers are allowed and not needed: from_number(milliseconds, "%d").
-    static GString from_number(std::int32_t value, std::string_view format);
-    static GString from_number(std::uint32_t value, std::string_view format);
-    static GString from_number(std::int64_t value, std::string_view format);
-    static GString from_number(std::uint64_t value, std::string_view format);
-    static GString from_number(double value, std::string_view format);
+    template <class Number>
+    requires std::integral<Number> || std::same_as<Number, double>
+    static GString from_number(Number value, std::string_view format)
+    {
+        return fromArgument(value, format);
+    }
 
     /// The arguments by a printf-style format: the flags, width, precision (also as *) and
     /// conversions d i u o x X c s S p f F e E g G a A of C. %s takes narrow text of the ANSI code
-    /// page and wide text alike. A conversion that its argument does not fit, or that has none, is
-    /// written as it stands, so that a mistake in a translated format is seen and harms nothing.
-    /// More than 65,535 units are cut there, and one NUL unit follows.
+    /// page and wide text alike, %c one UTF-16 unit. A conversion that its argument does not fit,
+    /// or that has none, is written as it stands, so that a mistake in a translated format is seen
+    /// and harms nothing. More than 65,535 units are cut there, and one NUL unit follows.
     template <class... Arguments>
     static GString format(const GString& format, const Arguments&... arguments)
     {
@@ -158,6 +160,7 @@ private:
         else
             return value;
     }
+    static GString fromArgument(const FormatArgument& number, std::string_view format);
     static GString formatted(View format, std::span<const FormatArgument> arguments);
 
     Text text_;

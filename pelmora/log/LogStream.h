@@ -15,7 +15,8 @@ namespace Pelmora::Native
 /// `log_settings` says otherwise. `get_log` makes it on first use: the file is begun anew, with the
 /// date, the running system and a separator. It ends with "-eof-" at the end of the process; what
 /// is logged after that, by destructors of static objects, goes to the same file behind a second
-/// header with a warning, and no further end.
+/// header with a warning, and no further end. On Windows, the end comes after the destructors of
+/// the program's own static objects.
 ///
 /// Each item is in the file when its insertion returns, so that the file is complete also after a
 /// crash. When the file cannot be opened, everything is dropped without an error. Narrow text is
@@ -36,7 +37,7 @@ public:
 
     const std::string& path() const noexcept { return path_; }
 
-    LogStream& operator<<(const char* text);
+    LogStream& operator<<(const char* text); ///< Requires: not null
     LogStream& operator<<(const std::string& text);
     LogStream& operator<<(char character);
     LogStream& operator<<(short number);

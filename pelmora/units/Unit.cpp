@@ -76,7 +76,7 @@ bool isoFormsAreEqualInOrder(const ElementList& a, const ElementList& b) noexcep
 }
 
 /// One number for the elements of the ISO form, equal for equal forms: its digits to the base 64
-/// are the sums of exponents, from -24 to 24. Nothing for units whose sums could be larger.
+/// are the sums of exponents, from -6 to 6. Nothing for units whose sums could be larger.
 std::optional<std::int64_t> isoSignature(const ElementList& elements) noexcept
 {
     constexpr std::size_t mostElements = 8;

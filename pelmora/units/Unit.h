@@ -12,8 +12,8 @@ struct ScaledUnit;
 /// A composite unit: the product of its elements, such as mg · kg⁻¹ · min⁻¹. The empty list is the
 /// dimensionless unit. The order of the elements is kept, since text and normalisation depend on
 /// it. A plain value that owns its list; no operation but `removeUnitType` changes it, none
-/// allocates for up to eight elements, and none throws unless memory runs out.
-/// Sums of exponents and negated exponents wrap around at 32 bits.
+/// but those that make texts allocates for up to eight elements, and none throws unless memory runs
+/// out. Sums of exponents and negated exponents wrap around at 32 bits.
 struct PELMORA_API Unit {
     ElementList elements;
 

@@ -3,7 +3,9 @@
 #include "pelmora/gettext/utf8.h"
 #include "pelmora/units/unitTables.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <locale>
 #include <sstream>
@@ -24,6 +26,10 @@ struct NumberFormat {
 
 constexpr NumberFormat streamDefault = {false, 6};
 
+/// No double has more digits behind the point; all further ones are zeros.
+constexpr int longestFraction = 1074;
+constexpr std::size_t longestNumber = 1 + 309 + 1 + longestFraction;
+
 std::string streamedNumber(double value, NumberFormat format)
 {
     std::ostringstream stream;
@@ -37,23 +43,22 @@ std::string streamedNumber(double value, NumberFormat format)
 std::string classicNumber(double value, NumberFormat format)
 {
     const auto notation = format.fixed ? std::chars_format::fixed : std::chars_format::general;
-    std::array<char, 64> few;
-    auto written =
-        std::to_chars(few.data(), few.data() + few.size(), value, notation, format.precision);
-    if (written.ec == std::errc())
-        return {few.data(), written.ptr};
-    constexpr std::size_t longestWithoutFraction = 320;
-    std::string many(longestWithoutFraction + static_cast<std::size_t>(format.precision), '\0');
-    written =
-        std::to_chars(many.data(), many.data() + many.size(), value, notation, format.precision);
-    many.resize(static_cast<std::size_t>(written.ptr - many.data()));
-    return many;
+    std::array<char, longestNumber> text;
+    const auto written =
+        std::to_chars(text.data(), text.data() + text.size(), value, notation, format.precision);
+    return {text.data(), written.ptr};
 }
 
 std::string numberText(double value, NumberFormat format)
 {
+    // Streams take the text from the stack, whatever its length.
+    const int zeros = std::max(format.precision - longestFraction, 0);
+    format.precision -= zeros;
     const bool isClassic = std::locale() == std::locale::classic();
-    return isClassic ? classicNumber(value, format) : streamedNumber(value, format);
+    std::string text = isClassic ? classicNumber(value, format) : streamedNumber(value, format);
+    if (format.fixed && std::isfinite(value))
+        text.append(static_cast<std::size_t>(zeros), '0');
+    return text;
 }
 
 /// Collects units of a text in place before the one allocation that the result may need.

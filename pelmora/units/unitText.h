@@ -20,7 +20,8 @@ namespace Pelmora::Native
 
 /// The number with `digits` significant digits in general notation, filled up with zeros behind a
 /// point: with 3 digits 5 gives "5.00", 120 "120", 1234.5 "1.23e+03", -5 "-5.0" (the sign counts
-/// as a digit, on purpose). With `digits` of 0 or less, 6 significant digits and no filling up.
+/// as a digit, on purpose, and so does a decimal comma of the locale's, which leaves "0,5" as
+/// "0,5.0"). With `digits` of 0 or less, 6 significant digits and no filling up.
 PELMORA_API std::string formatSignificant(double value, int digits);
 
 /// The digits of a number's text that count as significant: every character but the point and

@@ -40,8 +40,8 @@ TEST(ExceptionData, WhatEachConstructorSets)
         {ExceptionData(u"msg", u"src", u"trace", u"site", Prio::PRIO_NOTE, u"params",
                        Type::TYPE_DEBUGMESSAGE, u"dest"),
          all, Prio::PRIO_NOTE, Type::TYPE_DEBUGMESSAGE},
-        {ExceptionData(std::runtime_error("caf\xC3\xA9")), u"caf\u00E9|||||", Prio::PRIO_FATAL,
-         Type::TYPE_EXCEPTION},
+        {ExceptionData(std::runtime_error("caf\xC3\xA9 \xF0\x9F\x98\x80")),
+         u"caf\u00E9 \xD83D\xDE00|||||", Prio::PRIO_FATAL, Type::TYPE_EXCEPTION},
         {ExceptionData(std::runtime_error("caf\xE9")), u"caf\u00E9|||||", Prio::PRIO_FATAL,
          Type::TYPE_EXCEPTION},
     };

@@ -42,5 +42,19 @@ TEST(ParameterEntities, ABombOfThemEndsSoon)
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
 
+TEST(Attributes, ManyOfThemAndTheirDefaultsEndSoon)
+{
+    GString many;
+    for (int i = 0; i < 30000; ++i)
+        many += GString::format(u" a%d=''", i);
+    const GString longDefault(GString::Text(1U << 20U, 'x'));
+    GString elements;
+    for (int i = 0; i < 1500; ++i)
+        elements += u"<e/>";
+    EXPECT_FALSE(ManagedXMLParser().parseFromString(GString(u"<a") + many + u"/>"));
+    EXPECT_FALSE(ManagedXMLParser().parseFromString(GString(u"<!DOCTYPE a [<!ATTLIST e d CDATA '") +
+                                                    longDefault + u"'>]><a>" + elements + u"</a>"));
+}
+
 } // namespace
 } // namespace ManagedXML

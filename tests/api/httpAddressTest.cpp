@@ -46,12 +46,11 @@ TEST(HttpAddress, Parsing)
 TEST(HttpAddress, References)
 {
     const std::tuple<const char*, const char*> rows[] = {
-        {"/x", "s h 1 /x"},          {"x", "s h 1 /a/b/x"},
-        {"../x", "s h 1 /a/x"},      {"../../../x", "s h 1 /x"},
-        {"?y", "s h 1 /a/b/c?y"},    {"#z", "s h 1 /a/b/c?q"},
-        {"//o/x", "s o 443 /x"},     {"http://o", "p o 80 /"},
-        {"file:///x", "none"},       {"x:y", "none"},
-        {"./x:y", "s h 1 /a/b/x:y"}, {"x y", "s h 1 /a/b/x%20y"},
+        {"/x", "s h 1 /x"},          {"x", "s h 1 /a/b/x"},    {"../x", "s h 1 /a/x"},
+        {"../../../x", "s h 1 /x"},  {"?y", "s h 1 /a/b/c?y"}, {"#z", "s h 1 /a/b/c?q"},
+        {"y#t:5", "s h 1 /a/b/y"},   {"//o/x", "s o 443 /x"},  {"http://o", "p o 80 /"},
+        {"file:///x", "none"},       {"x:y", "none"},          {"./x:y", "s h 1 /a/b/x:y"},
+        {"x y", "s h 1 /a/b/x%20y"},
     };
     const auto base = parseHttpAddress("https://h:1/a/b/c?q");
     ASSERT_TRUE(base);

@@ -18,6 +18,7 @@ TEST(CodePages, TextsOfBothSidesMatch)
         {0, "b\xE9zier \x80\x96", u"b\u00E9zier \u20AC\u2013"},
         {1252, "\x81\x8D", u"\u0081\u008D"},
         {1250, "\xB9\xE8", u"\u0105\u010D"},
+        {1258, "a\xEC", u"a\u0301"}, // never composed
         {437, "\x81\xE1", u"\u00FC\u00DF"},
         {28591, "\x80\xE9", u"\u0080\u00E9"},
         {932, "\x93\x8C\x8B\x9E\\~", u"\u6771\u4EAC\\~"},
@@ -34,6 +35,7 @@ TEST(CodePages, WhatHasNoCounterpartIsReplaced)
 {
     const std::tuple<unsigned int, GString, std::string> toNarrow[] = {
         {0, u"\u0101\u0142\uFF21\u2032\u2212\u0111", "alA'-d"}, // best fits
+        {0, u"\u0080\u0093\u009D", "??\x9D"},
         {0, u"\u6771\u2603!", "?\?!"},
         {0, u"\xD83D\xDE00x", "??x"},
         {932, u"\u6771\uC11C", "\x93\x8C?"},

@@ -18,7 +18,7 @@ TEST(Format, ConversionsOfEveryKind)
     const std::tuple<GString, GString> rows[] = {
         {GString::format(u"plain"), u"plain"},
         {GString::format(u"100%% of %s", narrow), u"100% of caf\u00E9"},
-        {GString::format(u"%s|%ls|%S|%hs", drug, u"wide", drug, std::string("std")),
+        {GString::format(u"%s|%ls|%S|%hs", drug, u"wide", drug.text(), std::string("std")),
          drug + u"|wide|" + drug + u"|std"},
         {GString::format(u"[%6s][%-6s][%.2s][%*s]", "ab", "ab", "abc", -4, "x"),
          u"[    ab][ab    ][ab][x   ]"},
@@ -74,7 +74,7 @@ TEST(Format, Numbers)
     EXPECT_EQ(GString::from_number(std::int64_t(-5000000000), "%d"), u"-5000000000");
     EXPECT_EQ(GString::from_number(~std::uint64_t(0), "%llu"), u"18446744073709551615");
     EXPECT_EQ(GString::from_number(1234.5, "%.3e \xB5g"), u"1.234e+03 \u00B5g");
-    EXPECT_EQ(GString::from_number(1, "%s"), u"%s");
+    EXPECT_EQ(GString::from_number(5UL, "%s"), u"%s");
     EXPECT_EQ(GString::from_number(1, "%050d").size(), 50U);
     EXPECT_EQ(GString::from_number(1, "%051d"), GString(GString::Text(50, '0')));
 }

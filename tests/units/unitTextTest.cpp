@@ -130,6 +130,7 @@ TEST(UnitText, NumbersFollowTheGlobalLocale)
     EXPECT_EQ(UnitValue(2.5, unitOf({mg})).toNormalizedString(3), u"2,5 mg"); // the comma counts
     EXPECT_EQ(UnitValue(5, unitOf({mg})).toNormalizedString(3), u"5.00 mg");
     EXPECT_EQ(unitOf({{UNIT_M, NONE, 1234}}).toString(), u"m^1234");
+    EXPECT_EQ(UnitValue(0.5, Unit()).toString(20000000).size(), 20000002U);
     std::locale::global(previous);
     EXPECT_EQ(UnitValue(1234.5, unitOf({mL})).toString(2), u"1234.50 mL");
 }

@@ -17,6 +17,7 @@ struct BestFitRow {
 
 // clang-format off
 inline constexpr BestFitRow bestFit1252[] = {
+    {u"\u0081\u008D\u008F\u0090\u009D", "\x81\x8D\x8F\x90\x9D"},
     {u"\u0100\u0101\u0102\u0103\u0104\u0105\u0106\u0107", "AaAaAaCc"},
     {u"\u0108\u0109\u010A\u010B\u010C\u010D\u010E\u010F", "CcCcCcDd"},
     {u"\u0110\u0111\u0112\u0113\u0114\u0115\u0116\u0117", "\xD0" "dEeEeEe"},

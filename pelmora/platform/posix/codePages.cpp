@@ -76,6 +76,13 @@ public:
         return irreversible == static_cast<std::size_t>(-1) ? errno : 0;
     }
 
+    /// Gives out what is held back until more comes.
+    int flush(char*& out, std::size_t& outLeft)
+    {
+        const auto irreversible = iconv(handle_, nullptr, nullptr, &out, &outLeft);
+        return irreversible == static_cast<std::size_t>(-1) ? errno : 0;
+    }
+
 private:
     iconv_t handle_;
 };
@@ -98,6 +105,12 @@ std::size_t malformedUtf8Length(const unsigned char* text)
         return 1;
     const bool inRange = (lead != 0xF0 || text[1] >= 0x90) && (lead != 0xF4 || text[1] < 0x90);
     return lead >= 0xF0 && inRange && isContinuation(text[2]) ? 3 : 2;
+}
+
+/// Whether iconv joins a letter and the mark behind it into one character, which Windows does not.
+bool joinsMarks(unsigned int page)
+{
+    return page == 1255 || page == 1258;
 }
 
 bool isLeadByte(unsigned int page, unsigned char byte)
@@ -137,8 +150,6 @@ char bestFit(unsigned int page, WideChar unit)
 {
     if (page != ansiPage)
         return '?';
-    if (unit >= 0x80 && unit <= 0x9F)
-        return static_cast<char>(unit);
     if (unit >= 0xFF01 && unit <= 0xFF5E)
         return static_cast<char>(unit - 0xFF01 + 0x21);
     for (const BestFitRow& row : bestFit1252)
@@ -160,7 +171,15 @@ ConversionStatus decode(unsigned int codePage, const char* text, std::span<WideC
     std::size_t inLeft = std::strlen(text) + 1;
     char* out = reinterpret_cast<char*>(buffer.data());
     std::size_t outLeft = buffer.size_bytes();
-    while (const int error = converter.convert(in, inLeft, out, outLeft)) {
+    while (inLeft > 0) {
+        const std::size_t offered = joinsMarks(page) ? 1 : inLeft;
+        std::size_t left = offered;
+        int error = converter.convert(in, left, out, outLeft);
+        inLeft -= offered - left;
+        if (error == 0)
+            error = converter.flush(out, outLeft);
+        if (error == 0)
+            continue;
         if (error == E2BIG || outLeft < sizeof(WideChar))
             return ConversionStatus::bufferTooSmall;
         const Replacement replacement =

@@ -81,6 +81,8 @@ void setTimeLimit(CURL* handle, long milliseconds, bool limited)
 {
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, limited ? milliseconds : 0L);
+    // Or the end would wait for a name that is still being resolved.
+    curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
     // Five minutes when not set.
     curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
 }

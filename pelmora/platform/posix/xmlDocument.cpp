@@ -74,7 +74,10 @@ XmlDocument::Text outerXml(xmlNode* node)
         throw std::bad_alloc();
     xmlSaveTree(save, node);
     xmlSaveClose(save);
-    return toUtf16(view(xmlBufferContent(buffer.get())));
+    std::string_view xml = view(xmlBufferContent(buffer.get()));
+    if (node->type == XML_ATTRIBUTE_NODE && xml.starts_with(' '))
+        xml.remove_prefix(1);
+    return toUtf16(xml);
 }
 
 } // namespace

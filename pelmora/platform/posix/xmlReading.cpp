@@ -17,6 +17,11 @@ constexpr int maxDepth = 256; // as in MSXML 6
 // libxml2 limits what general entities grow to, but not how often parameter entities are expanded.
 constexpr int maxParameterReferences = 10000;
 
+// Nor does it limit attributes, whose number costs it time by its square, and whose defaults a
+// document type can repeat in every element.
+constexpr int maxAttributes = 4096;
+constexpr std::size_t maxDefaultedBytes = 10'000'000;
+
 enum class Mode {
     withoutDocumentType, ///< texts of any length; stops at a document type declaration
     withLimits,          ///< libxml2's own limits, among them those of entities
@@ -54,6 +59,7 @@ private:
     bool metDocumentType_ = false;
     bool stopped_ = false;
     int parameterReferences_ = 0;
+    std::size_t defaultedBytes_ = 0;
     xmlChar nothing_[1] = {0};
     xmlEntity emptyEntity_ = {};
     std::unique_ptr<xmlParserCtxt, ContextFree> context_;
@@ -96,7 +102,13 @@ void Reading::startElement(void* context, const xmlChar* name, const xmlChar* pr
                            const xmlChar* uri, int spaceCount, const xmlChar** spaces,
                            int attributeCount, int defaultedCount, const xmlChar** attributes)
 {
-    if (static_cast<xmlParserCtxt*>(context)->nodeNr >= maxDepth)
+    constexpr std::size_t attributeOverhead = 100;
+    for (int i = attributeCount - defaultedCount; i < attributeCount; ++i)
+        of(context).defaultedBytes_ +=
+            attributeOverhead +
+            static_cast<std::size_t>(attributes[5 * i + 4] - attributes[5 * i + 3]);
+    if (static_cast<xmlParserCtxt*>(context)->nodeNr >= maxDepth ||
+        attributeCount > maxAttributes || of(context).defaultedBytes_ > maxDefaultedBytes)
         of(context).stop();
     else
         xmlSAX2StartElementNs(context, name, prefix, uri, spaceCount, spaces, attributeCount,
