@@ -6,6 +6,7 @@
 
 #include <cereal/archives/json.hpp>
 #include <cereal/types/memory.hpp>
+#include <cereal/types/string.hpp>
 #include <cereal/types/vector.hpp>
 #include <gtest/gtest.h>
 
@@ -40,6 +41,27 @@ TEST(Serialize, UnitsThatShareStillShareAfterARoundTrip)
     EXPECT_NE(readDose.elements, readOther.elements);
     readDose.elements->front()->prefix = UnitPrefix::KILO;
     EXPECT_EQ(readOther.ToString(), u"kg/hr");
+}
+
+TEST(Serialize, AReportComesBackWhole)
+{
+    using Report = ExceptionData;
+    Report report(u"no \u00E9lan", u"ward", u"trace", u"site", Report::prio_enum::PRIO_NOTE,
+                  u"parameters \xD83D\xDE00", Report::type_enum::TYPE_DEBUGMESSAGE, u"log");
+    std::stringstream stream;
+    {
+        cereal::JSONOutputArchive output(stream);
+        output(report);
+    }
+    Report read;
+    cereal::JSONInputArchive input(stream);
+    input(read);
+    EXPECT_EQ(read.mMessage + read.mSource + read.mStackTrace + read.mTargetSite,
+              u"no \u00E9lanwardtracesite");
+    EXPECT_EQ(read.mParameters + read.mDestination, u"parameters \xD83D\xDE00log");
+    EXPECT_EQ(read.mDateTime, report.mDateTime);
+    EXPECT_EQ(read.mPriority, report.mPriority);
+    EXPECT_EQ(read.mType, report.mType);
 }
 
 } // namespace
