@@ -11,7 +11,8 @@ namespace Pelmora
 {
 
 /// An error of an application that knows where it came from: what an `ExceptionData` report is best
-/// made of. Thrown as it is, or as the base of an application's own exceptions.
+/// made of. Thrown as it is, or as the base of an application's own exceptions. What it carries
+/// does not change, so that several threads may read it.
 class PELMORA_API Exception : public std::runtime_error
 {
 public:

@@ -14,7 +14,7 @@ namespace Pelmora
 /// A record of one error, warning or debug message, which applications fill and pass on. Plain data
 /// with public fields; every constructor ends by setting `mDateTime` to the current local time.
 /// Without arguments the priority is `PRIO_NONE`; every other constructor but the longest sets
-/// `PRIO_FATAL`, on purpose.
+/// `PRIO_FATAL`, on purpose. Nothing is locked: whoever writes a record keeps other threads away.
 class PELMORA_API ExceptionData : public ExceptionDataEnums
 {
 public:

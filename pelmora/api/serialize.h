@@ -10,6 +10,7 @@
 // that calls `serialize(archive, object)` and knows std::shared_ptr, std::vector, std::string and
 // enumerations. Texts are written as UTF-8. Sharing survives where the library tracks
 // std::shared_ptr: two units that share one array still share it after a round trip.
+// Saving only reads the objects.
 
 namespace Pelmora
 {

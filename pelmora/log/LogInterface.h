@@ -5,7 +5,7 @@
 namespace Pelmora::Native
 {
 
-/// What a log is to those who write to it.
+/// What a log is to those who write to it. Each log says which threads may.
 class PELMORA_API LogInterface
 {
 public:

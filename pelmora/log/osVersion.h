@@ -17,6 +17,7 @@ PELMORA_API std::string osDescription(const Platform::OsVersion& version);
 
 /// Writes a line that names the running system: its description on Windows; on Linux what `uname`
 /// gives, system, release and machine. Writes nothing when the system gives no answer.
+/// For the thread that logs.
 PELMORA_API void write_os_version(LogStream& log);
 
 } // namespace Pelmora::Native

@@ -13,7 +13,8 @@ struct ScaledUnit;
 /// dimensionless unit. The order of the elements is kept, since text and normalisation depend on
 /// it. A plain value that owns its list; no operation but `removeUnitType` changes it, none
 /// but those that make texts allocates for up to eight elements, and none throws unless memory runs
-/// out. Sums of exponents and negated exponents wrap around at 32 bits.
+/// out. Sums of exponents and negated exponents wrap around at 32 bits. Several threads may read
+/// one unit at once while nobody writes it.
 struct PELMORA_API Unit {
     ElementList elements;
 

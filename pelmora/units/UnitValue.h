@@ -7,7 +7,8 @@ namespace Pelmora::Native
 
 /// A measured quantity: a number in a unit, such as 2.5 mg/kg. A plain value; only `convertTo`
 /// changes it. Nothing here reports an error: incompatible conversions give a number without
-/// meaning, so ask `Unit::compatibleWith` first where that can happen.
+/// meaning, so ask `Unit::compatibleWith` first where that can happen. Several threads may read one
+/// value at once while nobody writes it.
 struct PELMORA_API UnitValue {
     double value;
     Unit unit;

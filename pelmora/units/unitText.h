@@ -13,7 +13,7 @@
 // Numbers follow the process-wide C++ locale (`std::locale::global`) as an output stream would,
 // with the decimal point, grouping and digits of that locale; in the classic locale they look as
 // printf writes them. Unit texts never depend on a locale. There is no way back: units are not read
-// from text.
+// from text. Several threads may make texts at once, while nobody changes the global locale.
 
 namespace Pelmora::Native
 {
