@@ -1,0 +1,308 @@
+#include "pelmora/registry/RegistryKey.h"
+
+#include "pelmora/registry/systemErrorText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+struct KeyClose {
+    using pointer = HKEY;
+    void operator()(HKEY key) const { RegCloseKey(key); }
+};
+using KeyHandle = std::unique_ptr<HKEY, KeyClose>;
+
+constexpr const char* keyNotOpened = "key not opened";
+
+constexpr bool has(OpenMode mode, OpenMode flag)
+{
+    return (static_cast<std::uint32_t>(mode) & static_cast<std::uint32_t>(flag)) != 0;
+}
+
+REGSAM accessOf(OpenMode mode)
+{
+    constexpr std::pair<OpenMode, REGSAM> masks[] = {
+        {OpenMode::Read, KEY_READ},
+        {OpenMode::Write, KEY_WRITE},
+        {OpenMode::AllAccess, KEY_ALL_ACCESS},
+    };
+    REGSAM access = 0;
+    for (const auto& [flag, mask] : masks)
+        if (has(mode, flag))
+            access |= mask;
+    return access;
+}
+
+const BYTE* asBytes(const void* data)
+{
+    return static_cast<const BYTE*>(data);
+}
+
+} // namespace
+
+struct RegistryKey::Record {
+    KeyHandle handle;
+    std::string lastError;
+};
+
+/// A value's data; null after a failure.
+struct RegistryKey::Bytes {
+    std::unique_ptr<std::byte[]> data;
+    std::size_t size = 0;
+
+    std::string_view text() const
+    {
+        return {reinterpret_cast<const char*>(data.get()), size}; // NOLINT: bytes of a string
+    }
+};
+
+RegistryKey::RegistryKey() : record_(std::make_unique<Record>()) {}
+
+RegistryKey::RegistryKey(RegistryKey&& other) : RegistryKey() // NOLINT: see the header
+{
+    record_.swap(other.record_);
+}
+
+RegistryKey& RegistryKey::operator=(RegistryKey&& other) // NOLINT: see the header
+{
+    RegistryKey taken(std::move(other));
+    record_.swap(taken.record_);
+    return *this;
+}
+
+RegistryKey::~RegistryKey() = default;
+
+bool RegistryKey::open(HKEY root, const std::string& path, OpenMode mode)
+{
+    record_->handle.reset();
+    if (!has(mode, OpenMode::WriteOrRead))
+        return attempt(root, path, mode);
+    const OpenMode create = has(mode, OpenMode::Create) ? OpenMode::Create : OpenMode();
+    const OpenMode read = has(mode, OpenMode::Read) ? OpenMode::Read : OpenMode();
+    return attempt(root, path, OpenMode::Write | read | create) ||
+           attempt(root, path, OpenMode::Read | create);
+}
+
+bool RegistryKey::attempt(HKEY root, const std::string& path, OpenMode mode)
+{
+    HKEY opened = nullptr;
+    std::array<char, 1> noClass = {};
+    const LSTATUS status =
+        has(mode, OpenMode::Create)
+            ? RegCreateKeyExA(root, path.c_str(), 0, noClass.data(), REG_OPTION_NON_VOLATILE,
+                              accessOf(mode), nullptr, &opened, nullptr)
+            : RegOpenKeyExA(root, path.c_str(), 0, accessOf(mode), &opened);
+    if (!settle(status))
+        return false;
+    record_->handle.reset(opened);
+    return true;
+}
+
+bool RegistryKey::openMachineOrUser(const std::string& path, OpenMode mode)
+{
+    return open(HKEY_LOCAL_MACHINE, path, mode) || open(HKEY_CURRENT_USER, path, mode);
+}
+
+/// Whether the call succeeded; keeps the text of its failure.
+bool RegistryKey::settle(long status) const
+{
+    record_->lastError = status == ERROR_SUCCESS
+                             ? std::string()
+                             : systemErrorText(static_cast<std::uint32_t>(status));
+    return status == ERROR_SUCCESS;
+}
+
+RegistryKey::Bytes RegistryKey::queryRaw(const std::string& name, unsigned long expectedType) const
+{
+    if (record_->handle == nullptr) {
+        record_->lastError = keyNotOpened;
+        return {};
+    }
+    const HKEY key = record_->handle.get();
+    DWORD type = 0;
+    DWORD size = 0;
+    if (!settle(RegQueryValueExA(key, name.c_str(), nullptr, &type, nullptr, &size)))
+        return {};
+    if (type != expectedType) {
+        // The "<< " and the missing blank are meant: callers know the text.
+        record_->lastError = "The value: '" + name + "' has type: << " + std::to_string(type) +
+                             ", type expected:" + std::to_string(expectedType);
+        return {};
+    }
+    Bytes value = {std::make_unique<std::byte[]>(size), size};
+    auto* const room = reinterpret_cast<BYTE*>(value.data.get()); // NOLINT: the system's own type
+    if (!settle(RegQueryValueExA(key, name.c_str(), nullptr, nullptr, room, &size)))
+        return {};
+    value.size = std::min<std::size_t>(value.size, size); // it may have shrunk meanwhile
+    return value;
+}
+
+std::string RegistryKey::readString(const std::string& name, const std::string& fallback) const
+{
+    const Bytes value = queryRaw(name, REG_SZ);
+    if (value.data == nullptr)
+        return fallback;
+    return std::string(value.text().substr(0, value.size == 0 ? 0 : value.size - 1));
+}
+
+std::uint32_t RegistryKey::readDword(const std::string& name, std::uint32_t fallback) const
+{
+    const Bytes value = queryRaw(name, REG_DWORD);
+    std::uint32_t number = fallback;
+    if (value.size == sizeof number)
+        std::memcpy(&number, value.data.get(), sizeof number);
+    return number;
+}
+
+std::unique_ptr<std::byte[]> RegistryKey::readBinary(const std::string& name,
+                                                     std::size_t& size) const
+{
+    Bytes value = queryRaw(name, REG_BINARY);
+    size = value.size;
+    return std::move(value.data);
+}
+
+GString RegistryKey::readWideString(const std::string& name, const GString& fallback) const
+{
+    const Bytes value = queryRaw(name, REG_BINARY);
+    if (value.data == nullptr)
+        return fallback;
+    GString::Text text(value.size / sizeof(WideChar), 0);
+    if (!text.empty())
+        std::memcpy(text.data(), value.data.get(), text.size() * sizeof(WideChar));
+    return text;
+}
+
+std::vector<std::string> RegistryKey::readMultiString(const std::string& name) const
+{
+    const Bytes value = queryRaw(name, REG_MULTI_SZ);
+    std::vector<std::string> strings;
+    for (std::string_view rest = value.text(); !rest.empty() && rest.front() != '\0';) {
+        const std::size_t end = std::min(rest.find('\0'), rest.size());
+        strings.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return strings;
+}
+
+std::vector<GString> RegistryKey::readMultiString(const GString& name) const
+{
+    const std::vector<std::string> strings = readMultiString(name.to_narrow());
+    return {strings.begin(), strings.end()};
+}
+
+bool RegistryKey::write(const std::string& name, unsigned long type, const void* data,
+                        std::size_t size)
+{
+    if (record_->handle == nullptr) {
+        record_->lastError = keyNotOpened;
+        return false;
+    }
+    if (size > std::numeric_limits<DWORD>::max())
+        return settle(ERROR_INVALID_PARAMETER);
+    return settle(RegSetValueExA(record_->handle.get(), name.c_str(), 0, type, asBytes(data),
+                                 static_cast<DWORD>(size)));
+}
+
+bool RegistryKey::writeString(const std::string& name, const std::string& value)
+{
+    return write(name, REG_SZ, value.c_str(), value.size() + 1);
+}
+
+bool RegistryKey::writeDword(const std::string& name, std::uint32_t value)
+{
+    return write(name, REG_DWORD, &value, sizeof value);
+}
+
+bool RegistryKey::writeBinary(const std::string& name, const void* bytes, std::size_t size)
+{
+    return write(name, REG_BINARY, bytes, size);
+}
+
+bool RegistryKey::writeWideString(const std::string& name, const GString& value)
+{
+    return write(name, REG_BINARY, value.to_w_str(), value.size() * sizeof(WideChar));
+}
+
+bool RegistryKey::writeMultiString(const std::string& name, const std::vector<std::string>& values)
+{
+    std::string joined;
+    for (const std::string& value : values)
+        joined += value + '\0';
+    joined.append(2, '\0');
+    return write(name, REG_MULTI_SZ, joined.data(), joined.size());
+}
+
+bool RegistryKey::writeMultiString(const GString& name, const std::vector<GString>& values)
+{
+    std::vector<std::string> narrow;
+    for (const GString& value : values)
+        narrow.push_back(value.to_narrow());
+    return writeMultiString(name.to_narrow(), narrow);
+}
+
+bool RegistryKey::deleteValue(const std::string& name)
+{
+    return record_->handle != nullptr &&
+           RegDeleteValueA(record_->handle.get(), name.c_str()) == ERROR_SUCCESS;
+}
+
+long RegistryKey::flush()
+{
+    return RegFlushKey(record_->handle.get());
+}
+
+std::string RegistryKey::lastError() const
+{
+    return record_->lastError;
+}
+
+ValueNameIterator RegistryKey::valueNamesBegin() const
+{
+    return {record_->handle.get(), 0};
+}
+
+ValueNameIterator RegistryKey::valueNamesEnd() const
+{
+    DWORD count = 0;
+    RegQueryInfoKeyA(record_->handle.get(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                     &count, nullptr, nullptr, nullptr, nullptr);
+    return {record_->handle.get(), count};
+}
+
+ValueNameIterator& ValueNameIterator::operator++() noexcept
+{
+    ++index_;
+    name_.clear();
+    return *this;
+}
+
+ValueNameIterator ValueNameIterator::operator++(int)
+{
+    ValueNameIterator before = *this;
+    ++*this;
+    return before;
+}
+
+std::string ValueNameIterator::name() const
+{
+    if (name_.empty()) {
+        std::array<char, 256> buffer = {};
+        auto length = static_cast<DWORD>(buffer.size());
+        // Its status says nothing that the buffer does not.
+        RegEnumValueA(key_, index_, buffer.data(), &length, nullptr, nullptr, nullptr, nullptr);
+        buffer.back() = '\0';
+        name_ = buffer.data();
+    }
+    return name_;
+}
+
+} // namespace Pelmora::Native

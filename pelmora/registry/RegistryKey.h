@@ -1,0 +1,183 @@
+#pragma once
+
+#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/platform/export.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+namespace Pelmora::Native
+{
+
+/// How `RegistryKey::open` opens, to be combined with |.
+enum class OpenMode : std::uint32_t {
+    Read = 1,
+    Write = 2,
+    WriteOrRead = 4, ///< writing, and reading if `Read` is set; where that fails reading only
+    Create = 8,      ///< makes a key that is not there, with all its parents
+    AllAccess = 16,  ///< everything that can be done to a key; means nothing beside `WriteOrRead`
+};
+
+constexpr OpenMode operator|(OpenMode a, OpenMode b) noexcept
+{
+    return static_cast<OpenMode>(static_cast<std::uint32_t>(a) | static_cast<std::uint32_t>(b));
+}
+
+/// A position among the values of an open key; valid while that key stays open. Which value has
+/// which position is up to the system, and changes when values are added or deleted.
+class PELMORA_API ValueNameIterator
+{
+public:
+    ValueNameIterator(HKEY key, std::uint32_t index) noexcept : key_(key), index_(index) {}
+
+    ValueNameIterator& operator++() noexcept;
+    ValueNameIterator operator++(int);
+
+    /// The value's name, at most 255 bytes: a longer one cannot be had, and is "" or its beginning,
+    /// as the system leaves it. Asked of the system once, then kept. "" past the last value.
+    std::string operator*() const { return name(); }
+    std::string name() const;
+    GString wideName() const { return GString(name()); }
+
+    /// Whether both stand at the same value.
+    friend bool operator==(const ValueNameIterator& a, const ValueNameIterator& b) noexcept
+    {
+        return a.key_ == b.key_ && a.index_ == b.index_;
+    }
+
+private:
+    HKEY key_;
+    std::uint32_t index_;
+    mutable std::string name_; ///< empty until it was asked for
+};
+
+/// Owner of an open registry key, closed when this object is destroyed or opens another, and of
+/// the text of its last failure. Nothing here throws for a failure of the registry.
+///
+/// Reads find only values of their own type. A reader gives the value, or the default that the
+/// caller names when the value is absent, has another type or cannot be read; `lastError` tells
+/// these from success. Whatever stands in the registry is safe to read.
+///
+/// Paths, names and string values cross to the system in the ANSI code page, up to their first NUL
+/// for paths and names; each operation that takes one has a narrow and a wide form. A path is that
+/// below the root, "SOFTWARE\\Maker\\Program". An empty name is the key's default value.
+///
+/// An object is used by one thread at a time. It can be moved and not copied: a handle has one
+/// owner. What was moved from is a key that is not open, as a new one.
+class PELMORA_API RegistryKey
+{
+public:
+    RegistryKey();
+    RegistryKey(RegistryKey&& other);            // NOLINT: leaves a new record, which is allocated
+    RegistryKey& operator=(RegistryKey&& other); // NOLINT: as above
+    ~RegistryKey();
+
+    /// Closes the key that is open, whatever follows; whether the new one is open now.
+    bool open(HKEY root, const std::string& path, OpenMode mode);
+    bool open(HKEY root, const GString& path, OpenMode mode)
+    {
+        return open(root, path.to_narrow(), mode);
+    }
+
+    /// Below HKEY_LOCAL_MACHINE, or where that fails below HKEY_CURRENT_USER.
+    bool openMachineOrUser(const std::string& path, OpenMode mode);
+    bool openMachineOrUser(const GString& path, OpenMode mode)
+    {
+        return openMachineOrUser(path.to_narrow(), mode);
+    }
+
+    /// A REG_SZ value. The last byte is taken for the terminator and dropped unseen: a string that
+    /// was stored without one loses its last character, on purpose.
+    std::string readString(const std::string& name, const std::string& fallback) const;
+    GString readString(const GString& name, const GString& fallback) const
+    {
+        return GString(readString(name.to_narrow(), fallback.to_narrow()));
+    }
+
+    /// A REG_DWORD value; the default also for one that has not 4 bytes, which is no failure.
+    std::uint32_t readDword(const std::string& name, std::uint32_t fallback) const;
+    std::uint32_t readDword(const GString& name, std::uint32_t fallback) const
+    {
+        return readDword(name.to_narrow(), fallback);
+    }
+
+    /// A REG_BINARY value, now the caller's, and the number of its bytes in `size`. Null and 0 on
+    /// failure; a value without bytes is not null.
+    std::unique_ptr<std::byte[]> readBinary(const std::string& name, std::size_t& size) const;
+    std::unique_ptr<std::byte[]> readBinary(const GString& name, std::size_t& size) const
+    {
+        return readBinary(name.to_narrow(), size);
+    }
+
+    /// UTF-16 in a REG_BINARY value, all of it; an odd last byte is ignored.
+    GString readWideString(const std::string& name, const GString& fallback) const;
+    GString readWideString(const GString& name, const GString& fallback) const
+    {
+        return readWideString(name.to_narrow(), fallback);
+    }
+
+    /// A REG_MULTI_SZ value up to its first empty string; an empty list on failure.
+    std::vector<std::string> readMultiString(const std::string& name) const;
+    std::vector<GString> readMultiString(const GString& name) const;
+
+    /// The writers give true on success and replace a value of any type.
+    bool writeString(const std::string& name, const std::string& value);
+    bool writeString(const GString& name, const GString& value)
+    {
+        return writeString(name.to_narrow(), value.to_narrow());
+    }
+    bool writeDword(const std::string& name, std::uint32_t value);
+    bool writeDword(const GString& name, std::uint32_t value)
+    {
+        return writeDword(name.to_narrow(), value);
+    }
+    bool writeBinary(const std::string& name, const void* bytes, std::size_t size);
+    bool writeBinary(const GString& name, const void* bytes, std::size_t size)
+    {
+        return writeBinary(name.to_narrow(), bytes, size);
+    }
+    /// As REG_BINARY, without a terminator.
+    bool writeWideString(const std::string& name, const GString& value);
+    bool writeWideString(const GString& name, const GString& value)
+    {
+        return writeWideString(name.to_narrow(), value);
+    }
+    /// The strings, each with its terminator, and two more NULs: one more than readers need, on
+    /// purpose. A string that is empty ends the list for readers.
+    bool writeMultiString(const std::string& name, const std::vector<std::string>& values);
+    bool writeMultiString(const GString& name, const std::vector<GString>& values);
+
+    /// False also when no key is open; `lastError` stays as it is.
+    bool deleteValue(const std::string& name);
+    bool deleteValue(const GString& name) { return deleteValue(name.to_narrow()); }
+
+    /// Waits until the key is on the disk; the status of RegFlushKey, 0 on success.
+    long flush();
+
+    /// What `open`, the readers and the writers last met: empty after a success, "key not opened"
+    /// without a key, otherwise the system's text for the status (see `systemErrorText`) or, for a
+    /// value of another type, which one it has and which was expected.
+    std::string lastError() const;
+
+    ValueNameIterator valueNamesBegin() const;
+    /// Past the last value that the key has now.
+    ValueNameIterator valueNamesEnd() const;
+
+private:
+    struct Bytes;
+
+    bool attempt(HKEY root, const std::string& path, OpenMode mode);
+    bool settle(long status) const;
+    Bytes queryRaw(const std::string& name, unsigned long expectedType) const;
+    bool write(const std::string& name, unsigned long type, const void* data, std::size_t size);
+
+    struct Record;
+    std::unique_ptr<Record> record_;
+};
+
+} // namespace Pelmora::Native

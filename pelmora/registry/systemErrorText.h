@@ -1,0 +1,16 @@
+#pragma once
+
+#include "pelmora/platform/export.h"
+
+#include <cstdint>
+#include <string>
+
+namespace Pelmora::Native
+{
+
+/// The system's text for one of its status codes, in the user's language and the ANSI code page,
+/// with the line end that the system puts behind it; "Unknown error: " and the code as a signed
+/// number where the system has none. May run in several threads at once.
+PELMORA_API std::string systemErrorText(std::uint32_t code);
+
+} // namespace Pelmora::Native
