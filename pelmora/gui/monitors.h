@@ -1,0 +1,36 @@
+#pragma once
+
+#include "pelmora/platform/export.h"
+
+#include <string>
+
+#include <windows.h>
+
+// Which part of the screen a window may use, and how large it really is. Rectangles are in screen
+// pixels, right and bottom exclusive; a second monitor may have negative coordinates. May run in
+// several threads at once.
+
+namespace Pelmora::Native
+{
+
+/// Sets `area` to the work area, the screen without task bars, of the monitor nearest to the
+/// window; null for the calling thread's main window: its first visible window that has no owner.
+/// Where there is none, the system takes the primary monitor. All 0 if the system fails.
+PELMORA_API void getWorkAreaOfWindow(RECT& area, HWND window);
+
+/// The same for the monitor nearest to a point; -1 for both coordinates is the mouse cursor.
+PELMORA_API void getWorkAreaAtPoint(RECT& area, int x, int y);
+
+/// Pixels per centimetre, rounded, across the monitor that shows most of the window, the primary
+/// one when none does. 0 when its physical width is unknown.
+///
+/// The widths stand in the registry, "SOFTWARE\Tavelin\MonitorWidthsMM" below HKEY_LOCAL_MACHINE: a
+/// REG_DWORD for each monitor model, named as `getMonitorIdentifier` gives it, in whole
+/// millimetres of visible screen. The library makes the key where the user may, and never an entry.
+PELMORA_API int getMonitorPixelsPerCm(HWND window);
+
+/// The name that the table has, or would have, for the model of the window's monitor, in the ANSI
+/// code page: "ABC1234#5&1a2b3c&0&UID256". Empty when the system does not tell it.
+PELMORA_API std::string getMonitorIdentifier(HWND window);
+
+} // namespace Pelmora::Native

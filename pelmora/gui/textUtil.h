@@ -1,0 +1,23 @@
+#pragma once
+
+#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/platform/export.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Texts for windows. Nothing here fails, and all functions may run in several threads at once.
+
+namespace Pelmora::Native
+{
+
+/// `<a href="target">text</a>`, or the text alone for an empty target. Neither is escaped: see
+/// Formatter::escape.
+PELMORA_API GString makeLink(const GString& text, const GString& target);
+
+/// The fields between the separators, in their order, the last one behind the last separator: an
+/// empty text is one empty field. With `skipEmpty` empty fields are left out.
+PELMORA_API std::vector<std::string> split(std::string_view text, char separator, bool skipEmpty);
+
+} // namespace Pelmora::Native
