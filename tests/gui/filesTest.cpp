@@ -21,28 +21,21 @@ TEST(Files, PathExists)
     std::filesystem::create_directory(folder.path("sub"));
     const std::tuple<std::string, bool> rows[] = {
         {"caf\xE9.txt", true},
-        {"caf\xE9.txt/", true},
-        {"CAF\xC9.TXT", true},
         {"cafe.txt", false},
-        {"caf\xE9", false},
-        {"sub", true},
         {"sub\\", true},
         {"sub/", true},
         {"sub//", false},
-        {"sub\\*", true},
         {"*.txt", true},
         {"*.doc", false},
         {"sub/none", false},
-        {std::string(300, 'x'), false},
         {"", true},
+        {std::string(300, 'x'), false},
     };
     for (const auto& [name, exists] : rows) {
         EXPECT_EQ(pathExists(folder.name(name)), exists) << name;
         EXPECT_EQ(pathExists(GString(folder.name(name))), exists) << name;
     }
     EXPECT_FALSE(pathExists(""));
-    EXPECT_FALSE(pathExists(GString()));
-    EXPECT_FALSE(pathExists("/"));
 }
 
 TEST(Files, RemoveReadOnly)
@@ -50,30 +43,20 @@ TEST(Files, RemoveReadOnly)
     const TemporaryFolder folder;
     const std::string file = folder.name("caf\xE9.txt");
     TemporaryFolder::write(folder.path(L"caf\u00E9.txt"), "x");
-    const std::tuple<DWORD, bool, DWORD, const char*> rows[] = {
-        // attributes, log success, attributes afterwards, what the log says
-        {FILE_ATTRIBUTE_HIDDEN, true, FILE_ATTRIBUTE_HIDDEN, nullptr},
-        {FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN, true, FILE_ATTRIBUTE_HIDDEN,
-         "Removed read-only attribute on "},
-        {FILE_ATTRIBUTE_READONLY, false, FILE_ATTRIBUTE_NORMAL,
-         "Could not remove read-only attribute on "},
+    constexpr DWORD hidden = FILE_ATTRIBUTE_HIDDEN;
+    const std::tuple<DWORD, bool, const char*> rows[] = {
+        // attributes, log success, what the log says
+        {hidden, true, nullptr},
+        {hidden | FILE_ATTRIBUTE_READONLY, true, "Removed read-only attribute on "},
+        {hidden | FILE_ATTRIBUTE_READONLY, false, "Could not remove read-only attribute on "},
     };
-    for (const bool wide : {false, true}) {
-        for (const auto& [attributes, logSuccess, remaining, text] : rows) {
-            SetFileAttributesA(file.c_str(), attributes);
-            const LogCapture log;
-            if (wide)
-                removeReadOnly(GString(file), logSuccess);
-            else
-                removeReadOnly(file, logSuccess);
-            EXPECT_EQ(log.text(), text == nullptr ? "" : text + file + "\n");
-            constexpr DWORD looked = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN;
-            EXPECT_EQ(GetFileAttributesA(file.c_str()) & looked, remaining & looked);
-        }
+    for (const auto& [attributes, logSuccess, text] : rows) {
+        SetFileAttributesA(file.c_str(), attributes);
+        const LogCapture log;
+        removeReadOnly(GString(file), logSuccess);
+        EXPECT_EQ(log.text(), text == nullptr ? "" : text + file + "\n");
+        EXPECT_EQ(GetFileAttributesA(file.c_str()) & ~DWORD(FILE_ATTRIBUTE_ARCHIVE), hidden);
     }
-    const LogCapture log;
-    removeReadOnly(folder.name("none"), true);
-    EXPECT_EQ(log.text(), "");
 }
 
 } // namespace

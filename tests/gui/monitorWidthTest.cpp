@@ -23,57 +23,33 @@ bool japanese(unsigned char byte)
 
 TEST(MonitorWidth, IdentifierOfADevice)
 {
-    const std::string m127(127, 'm');
-    const std::tuple<std::string, std::optional<std::string>> rows[] = {
-        {R"(\\?\DISPLAY#ABC1234#5&1a2b3c&0&UID256#{e6f07b5f})", "ABC1234#5&1a2b3c&0&UID256"},
-        {R"(\\?\DISPLAY#a#)", "a"},
-        {"a##b", ""},
-        {"a#b", std::nullopt},
-        {R"(Monitor\ABC\x#)", std::nullopt}, // a '#' comes first
-        {R"(Monitor\ABC1234\{4d36e96e}\0001)", R"(ABC1234\{4d36e96e})"},
-        {R"(xMonitor\A\Monitor\B)", R"(A\Monitor)"},
-        {R"(Monitor\)", std::nullopt},
-        {R"(Monitor\ABC)", std::nullopt},
-        {R"(Monitor\\)", ""},
-        {R"(MONITOR\ABC\x)", std::nullopt},
-        {"Monitor", std::nullopt},
-        {"", std::nullopt},
-        {"#" + m127 + "#", m127},
-        {"#" + m127 + "n#", m127},
-        {"#" + m127 + "\x95\x5C#", m127},
-    };
-    for (const auto& [id, identifier] : rows)
-        EXPECT_EQ(monitorIdentifier(id, none), identifier) << id;
-}
-
-TEST(MonitorWidth, CharactersOfTwoBytesStayWhole)
-{
     const std::string m126(126, 'm');
     // 0x955C, 0x8372 and 0x8E23 are characters that end like a backslash, an 'r' and a '#'.
-    const std::tuple<std::string, std::optional<std::string>> rows[] = {
-        {"Monitor\\A\\\x95\x5C", "A"}, {"Monito\x83r\\A\\Monitor\\B\\C", "B"},
-        {"#A\x8E#", std::nullopt},     {"#" + m126 + "\x95\x5C#", m126},
-        {"#A\x95", std::nullopt},      {"#A#\x95", "A"},
+    const std::tuple<std::string, IsLeadByte, std::optional<std::string>> rows[] = {
+        {R"(\\?\DISPLAY#ABC1234#5&1a2b3c&0&UID256#{e6})", none, "ABC1234#5&1a2b3c&0&UID256"},
+        {"a##b", none, ""},
+        {"a#b", none, std::nullopt},
+        {R"(Monitor\ABC\x#)", none, std::nullopt}, // a '#' comes first
+        {R"(Monitor\ABC1234\{4d36e96e}\0001)", none, R"(ABC1234\{4d36e96e})"},
+        {R"(Monitor\ABC)", none, std::nullopt},
+        {R"(MONITOR\ABC\x)", none, std::nullopt},
+        {"", none, std::nullopt},
+        {"#" + m126 + "nn#", none, m126 + "n"},
+        {"#" + m126 + "\x95\x5C#", japanese, m126},
+        {"Monitor\\A\\\x95\x5C", japanese, "A"},
+        {"Monito\x83r\\A\\Monitor\\B\\C", japanese, "B"},
+        {"#A\x8E#", japanese, std::nullopt},
     };
-    for (const auto& [id, identifier] : rows)
-        EXPECT_EQ(monitorIdentifier(id, japanese), identifier) << id;
-    EXPECT_EQ(monitorIdentifier("Monitor\\A\\\x95\x5C", none), "A\\\x95");
+    for (const auto& [id, isLeadByte, identifier] : rows)
+        EXPECT_EQ(monitorIdentifier(id, isLeadByte), identifier) << id;
 }
 
 TEST(MonitorWidth, PixelsPerCentimetre)
 {
-    constexpr std::int64_t wide = std::numeric_limits<std::int32_t>::max();
+    constexpr int most = std::numeric_limits<int>::max();
     const std::tuple<std::int64_t, std::uint32_t, int> rows[] = {
-        {1920, 520, 37}, // 36.92
-        {1920, 518, 37},
-        {75, 300, 3}, // 2.5 is rounded up
-        {74, 300, 2},
-        {1920, 0, 0},
-        {1920, 0x80000000, 0},
-        {1920, 0xFFFFFFFF, 0},
-        {1920, 0x7FFFFFFF, 0},
-        {0, 520, 0},
-        {wide, 1, std::numeric_limits<int>::max()},
+        {1920, 520, 37},       {75, 300, 3},    {74, 300, 2}, {1920, 0, 0},
+        {1920, 0xFFFFFFFF, 0}, {1920, most, 0}, {0, 520, 0},  {most, 1, most},
     };
     for (const auto& [pixels, mm, result] : rows)
         EXPECT_EQ(pixelsPerCm(pixels, mm), result) << pixels << ' ' << mm;

@@ -1,11 +1,14 @@
 // The import pointers of some functions are defined here, so that the library calls these, which
 // fail, instead.
 
-#include "pelmora/gui/dateTime.h"
-#include "pelmora/gui/files.h"
+#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/FontUtil.h"
+#include "pelmora/gui/drawing.h"
+#include "pelmora/registry/systemErrorText.h"
 
 #include "tests/LogCapture.h"
-#include "tests/TemporaryFolder.h"
+#include "tests/gui/Canvas.h"
+#include "tests/gui/sampleDialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -14,23 +17,24 @@
 namespace
 {
 
-BOOL WINAPI failingSetAttributes(const char*, DWORD)
+HFONT WINAPI failingCreateFont(int, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
+                               DWORD, DWORD, const char*)
 {
-    return FALSE;
+    return nullptr;
 }
 
-int WINAPI failingFormat(LCID, DWORD, const SYSTEMTIME*, const char*, char* text, int)
+int WINAPI failingStretch(HDC, int, int, int, int, int, int, int, int, const void*,
+                          const BITMAPINFO*, UINT, DWORD)
 {
-    *text = '?';
-    return 0;
+    SetLastError(ERROR_ACCESS_DENIED);
+    return static_cast<int>(GDI_ERROR);
 }
 
 } // namespace
 
 extern "C" {
-void* __imp_SetFileAttributesA = reinterpret_cast<void*>(failingSetAttributes);
-void* __imp_GetDateFormatA = reinterpret_cast<void*>(failingFormat);
-void* __imp_GetTimeFormatA = reinterpret_cast<void*>(failingFormat);
+void* __imp_CreateFontA = reinterpret_cast<void*>(failingCreateFont);
+void* __imp_StretchDIBits = reinterpret_cast<void*>(failingStretch);
 }
 
 namespace Pelmora::Native
@@ -38,22 +42,29 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(GuiFailures, ReadOnlyFilesStayReadOnly)
+TEST(GuiFailures, TheSystemsFontTakesThePlaceOfAnother)
 {
-    const TemporaryFolder folder;
-    const std::string file = folder.name("file");
-    TemporaryFolder::write(folder.path("file"), "x");
-    ASSERT_NE(SetFileAttributesW(folder.path("file").c_str(), FILE_ATTRIBUTE_READONLY), 0);
     const LogCapture log;
-    removeReadOnly(file, true);
-    EXPECT_EQ(log.text(), "Could not remove read-only attribute on " + file + "\n");
-    SetFileAttributesW(folder.path("file").c_str(), FILE_ATTRIBUTE_NORMAL);
+    Font font;
+    EXPECT_TRUE(FontUtil::create(font, "No face", -13, true, false));
+    EXPECT_EQ(font.get(), GetStockObject(SYSTEM_FONT));
+    EXPECT_EQ(log.text(),
+              "FontUtil::create( .., No face, -13, true, false) : can't create font.\n");
+    EXPECT_EQ(FontUtil::createHandle("No face", -13, true, false), nullptr);
+    const DialogPoint base = DialogTemplate(built({}).bytes).getBaseUnits();
+    EXPECT_EQ(MAKELONG(base.x, base.y), GetDialogBaseUnits());
 }
 
-TEST(GuiFailures, NoDateIsNoText)
+TEST(GuiFailures, APictureThatIsNotDrawnIsReported)
 {
-    EXPECT_EQ(currentDateText(true), "");
-    EXPECT_EQ(currentTimeText(true), "");
+    const Canvas canvas;
+    SetStretchBltMode(canvas.dc(), HALFTONE);
+    const LogCapture log;
+    const BITMAPINFO information = {};
+    EXPECT_FALSE(showDib(canvas.dc(), &information, &information, {0, 0, 1, 1}, {0, 0, 1, 1}));
+    EXPECT_EQ(log.text(), "Util::showDib(..) StretchDIBits bits error: " +
+                              systemErrorText(ERROR_ACCESS_DENIED) + "\n");
+    EXPECT_EQ(GetStretchBltMode(canvas.dc()), HALFTONE);
 }
 
 } // namespace

@@ -1,0 +1,175 @@
+#include "pelmora/gui/FontUtil.h"
+
+#include "pelmora/gui/gdi.h"
+#include "pelmora/log/LogStream.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <utility>
+
+namespace Pelmora::Native
+{
+
+Font& Font::operator=(Font&& other) noexcept
+{
+    if (this != &other)
+        attach(other.detach());
+    return *this;
+}
+
+bool Font::attach(HFONT font) noexcept
+{
+    reset();
+    handle_ = font;
+    return font != nullptr;
+}
+
+HFONT Font::detach() noexcept
+{
+    return std::exchange(handle_, nullptr);
+}
+
+void Font::reset() noexcept
+{
+    if (const HFONT font = detach(); font != nullptr)
+        DeleteObject(font);
+}
+
+namespace FontUtil
+{
+namespace
+{
+
+using Gdi::MemoryDc;
+using Gdi::ScreenDc;
+using Gdi::withDc;
+
+constexpr int decipointsPerInch = 720;
+
+int CALLBACK noteFound(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM found)
+{
+    *reinterpret_cast<bool*>(found) = true; // NOLINT: the system hands the address through
+    return 0;
+}
+
+} // namespace
+
+bool create(Font& font, const std::string& face, int height, bool bold, bool italic)
+{
+    HFONT handle = createHandle(face, height, bold, italic);
+    if (handle == nullptr) {
+        get_log() << "FontUtil::create( .., " << face << ", " << height << ", " << bold << ", "
+                  << italic << ") : can't create font." << endl;
+        handle = static_cast<HFONT>(GetStockObject(SYSTEM_FONT));
+    }
+    return font.attach(handle);
+}
+
+bool create(Font& font, const GString& face, int height, bool bold, bool italic)
+{
+    return create(font, face.to_narrow(), height, bold, italic);
+}
+
+HFONT createHandle(const std::string& face, int height, bool bold, bool italic)
+{
+    return CreateFontA(height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, italic ? TRUE : FALSE, FALSE,
+                       FALSE, systemCharset(), OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                       DEFAULT_QUALITY, DWORD(FF_SWISS) | DWORD(DEFAULT_PITCH), face.c_str());
+}
+
+HFONT createHandle(const GString& face, int height, bool bold, bool italic)
+{
+    return createHandle(face.to_narrow(), height, bold, italic);
+}
+
+BYTE systemCharset()
+{
+    CHARSETINFO information = {};
+    const std::uintptr_t codePage = GetACP();
+    TranslateCharsetInfo(reinterpret_cast<DWORD*>(codePage), // NOLINT: the flag makes it a number
+                         &information, TCI_SRCCODEPAGE);
+    return static_cast<BYTE>(information.ciCharset);
+}
+
+bool isNonAnsiSystem()
+{
+    static const bool answer = systemCharset() != ANSI_CHARSET;
+    return answer;
+}
+
+bool hasSmallFonts()
+{
+    static const bool answer = exists("Small Fonts", systemCharset());
+    return answer;
+}
+
+bool exists(const std::string& face, BYTE charset, HDC dc)
+{
+    LOGFONTA wanted = {};
+    const std::size_t length = std::min(face.size(), std::size(wanted.lfFaceName) - 1);
+    std::copy_n(face.begin(), length, wanted.lfFaceName);
+    wanted.lfCharSet = charset;
+    return withDc<MemoryDc>(dc, [&wanted](HDC used) {
+        bool found = false;
+        EnumFontFamiliesExA(used, &wanted, noteFound, reinterpret_cast<LPARAM>(&found),
+                            0); // NOLINT: as above
+        return found;
+    });
+}
+
+bool exists(const GString& face, BYTE charset, HDC dc)
+{
+    return exists(face.to_narrow(), charset, dc);
+}
+
+bool existsAnyCharset(const std::string& face, HDC dc)
+{
+    return exists(face, DEFAULT_CHARSET, dc);
+}
+
+bool existsAnyCharset(const GString& face, HDC dc)
+{
+    return existsAnyCharset(face.to_narrow(), dc);
+}
+
+int textHeight(HFONT font, HDC dc)
+{
+    TEXTMETRICA metrics;
+    textMetrics(metrics, font, dc);
+    return metrics.tmHeight;
+}
+
+void textMetrics(TEXTMETRICA& metrics, HFONT font, HDC dc)
+{
+    metrics = {};
+    withDc<MemoryDc>(dc, [&](HDC used) {
+        const Gdi::Selection selected(used, font);
+        GetTextMetricsA(used, &metrics);
+    });
+}
+
+int decipointsToHeight(int decipoints, HDC dc)
+{
+    return withDc<ScreenDc>(dc, [decipoints](HDC used) {
+        POINT points[] = {
+            {0, GetDeviceCaps(used, LOGPIXELSY) * decipoints / decipointsPerInch},
+            {0, 0},
+        };
+        DPtoLP(used, points, 2);
+        return -std::abs(static_cast<int>(points[0].y - points[1].y));
+    });
+}
+
+int heightToDecipoints(int height, HDC dc)
+{
+    return withDc<ScreenDc>(dc, [height](HDC used) {
+        POINT point = {0, height};
+        LPtoDP(used, &point, 1);
+        return static_cast<int>(point.y) * decipointsPerInch / GetDeviceCaps(used, LOGPIXELSY);
+    });
+}
+
+} // namespace FontUtil
+
+} // namespace Pelmora::Native

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/platform/export.h"
+
+#include <exception>
+#include <optional>
+
+#include <windows.h>
+
+namespace Pelmora::Native
+{
+
+/// A dialog that is made from a template in memory and keeps its caller waiting until it ends; see
+/// `runModalDialog`. Derived classes say what it does with its messages. The dialog is a Unicode
+/// window: its messages are those of the system's wide functions.
+///
+/// An exception of the handler's never passes through the system: it ends the dialog and is thrown
+/// again by `run`. An object can run again when it has ended, and belongs to one thread.
+class PELMORA_API ModalDialog
+{
+public:
+    ModalDialog() = default;
+    ModalDialog(const ModalDialog&) = delete;
+    ModalDialog& operator=(const ModalDialog&) = delete;
+    virtual ~ModalDialog() = default;
+
+    /// Runs the dialog above `parent`, which may be null and is disabled meanwhile, and gives what
+    /// `end` was called with. None when it cannot be made: the template is not valid or the system
+    /// refuses it, and GetLastError may say why. `module` is where its pictures and menus are, null
+    /// for the program itself. Requires: it does not run already.
+    std::optional<INT_PTR> run(const DialogTemplate& dialog, HWND parent, HMODULE module = nullptr);
+
+    /// Null while the dialog is not on the screen.
+    HWND window() const noexcept { return window_; }
+
+protected:
+    /// A message, beginning with WM_INITDIALOG; what the dialog procedure is to return, which is
+    /// not 0 for a message that was dealt with. This one ends the dialog with IDOK or IDCANCEL when
+    /// such a button is pressed, and with IDCANCEL when it is closed.
+    virtual INT_PTR handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    /// Ends the dialog when the handler returns. Requires: it runs.
+    void end(INT_PTR result);
+
+private:
+    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR handleSafely(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+    HWND window_ = nullptr;
+    bool begun_ = false;
+    std::exception_ptr failure_;
+};
+
+} // namespace Pelmora::Native

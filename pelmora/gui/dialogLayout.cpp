@@ -1,0 +1,110 @@
+#include "pelmora/gui/dialogLayout.h"
+
+#include "pelmora/gui/littleEndian.h"
+
+#include <algorithm>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+constexpr DialogLayout classic = {false, 0, 8, 10, 14, 18, 18, 2};
+constexpr DialogLayout extended = {true, 12, 16, 18, 22, 26, 24, 6};
+
+constexpr std::uint16_t ordinalMark = 0xFFFF;
+
+/// Walks through a template. A step beyond its end makes the reader fail, and stay so.
+class Reader
+{
+public:
+    explicit Reader(std::span<const std::byte> bytes) : bytes_(bytes) {}
+
+    bool failed() const { return failed_; }
+    std::size_t position() const { return position_; }
+
+    void skip(std::size_t count)
+    {
+        failed_ = failed_ || count > bytes_.size() - position_;
+        if (!failed_)
+            position_ += count;
+    }
+
+    std::uint16_t word()
+    {
+        const std::size_t at = position_;
+        skip(2);
+        return failed_ ? std::uint16_t(0) : readNumber<std::uint16_t>(bytes_, at);
+    }
+
+    /// The units before the NUL.
+    std::size_t string()
+    {
+        std::size_t length = 0;
+        while (word() != 0)
+            ++length;
+        return length;
+    }
+
+    void stringOrOrdinal()
+    {
+        const std::size_t at = position_;
+        if (word() == ordinalMark) {
+            skip(2);
+        } else if (!failed_) {
+            position_ = at;
+            string();
+        }
+    }
+
+    void align() { skip(alignedTo4(position_) - position_); }
+
+private:
+    std::span<const std::byte> bytes_;
+    std::size_t position_ = 0;
+    bool failed_ = false;
+};
+
+void skipItem(Reader& reader, const DialogLayout& layout)
+{
+    reader.align();
+    reader.skip(layout.itemHeaderSize);
+    reader.stringOrOrdinal(); // class
+    reader.stringOrOrdinal(); // title
+    const std::size_t size = reader.word();
+    // The size of the creation data counts its own two bytes in the classic layout only.
+    const std::size_t counted = layout.extended ? 0 : 2;
+    reader.skip(std::max(size, counted) - counted);
+}
+
+} // namespace
+
+std::optional<DialogParts> dialogParts(std::span<const std::byte> bytes)
+{
+    if (bytes.size() < 4)
+        return std::nullopt;
+    DialogParts parts = {};
+    const bool isExtended = readNumber<std::uint16_t>(bytes, 2) == 0xFFFF;
+    parts.layout = isExtended ? &extended : &classic;
+    Reader reader(bytes);
+    reader.skip(parts.layout->headerSize);
+    if (reader.failed())
+        return std::nullopt;
+    parts.hasFont = (readNumber<std::uint32_t>(bytes, parts.layout->style) & setFontStyle) != 0;
+    parts.itemCount = readNumber<std::uint16_t>(bytes, parts.layout->itemCount);
+    reader.stringOrOrdinal(); // menu
+    reader.stringOrOrdinal(); // window class
+    parts.caption = reader.position();
+    parts.captionLength = reader.string();
+    parts.font = reader.position();
+    if (parts.hasFont) {
+        reader.skip(parts.layout->fontFixedSize);
+        parts.faceLength = reader.string();
+    }
+    parts.items = reader.position();
+    for (unsigned int i = 0; i < parts.itemCount && !reader.failed(); ++i)
+        skipItem(reader, *parts.layout);
+    return reader.failed() ? std::nullopt : std::optional(parts);
+}
+
+} // namespace Pelmora::Native

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace Pelmora::Native
+{
+
+/// Where the parts of a dialog template lie that do not depend on what it holds, in bytes.
+struct DialogLayout {
+    bool extended;
+    std::size_t style;
+    std::size_t itemCount;
+    std::size_t position;
+    std::size_t size;
+    std::size_t headerSize;
+    std::size_t itemHeaderSize;
+    std::size_t fontFixedSize; ///< of the font block, before the face
+};
+
+/// The parts of one template, in bytes from its start.
+struct DialogParts {
+    const DialogLayout* layout;
+    std::size_t caption;
+    std::size_t captionLength; ///< in units, without the NUL
+    std::size_t font;          ///< behind the caption's NUL
+    bool hasFont;
+    std::size_t faceLength; ///< in units, without the NUL
+    std::size_t items;      ///< behind the font block, not aligned
+    std::uint16_t itemCount;
+
+    std::size_t fontBlockSize() const
+    {
+        return hasFont ? layout->fontFixedSize + 2 * (faceLength + 1) : 0;
+    }
+};
+
+/// Says that a template has a font.
+inline constexpr std::uint32_t setFontStyle = 0x40;
+
+constexpr std::size_t alignedTo4(std::size_t position)
+{
+    return (position + 3) & ~std::size_t(3);
+}
+
+/// None when the bytes are not a whole template with all the items that it counts.
+std::optional<DialogParts> dialogParts(std::span<const std::byte> bytes);
+
+} // namespace Pelmora::Native

@@ -1,0 +1,92 @@
+#include "pelmora/gui/dialogs.h"
+
+#include "pelmora/gui/FontUtil.h"
+#include "pelmora/gui/fontRule.h"
+#include "pelmora/log/LogStream.h"
+#include "pelmora/registry/systemErrorText.h"
+
+#include <array>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+bool hasFocus(HWND control)
+{
+    const HWND focus = GetFocus();
+    return focus != nullptr && (focus == control || IsChild(control, focus) != 0);
+}
+
+/// Before the control can no longer take the focus.
+void passFocusOn(HWND control)
+{
+    if (!hasFocus(control))
+        return;
+    const HWND parent = GetParent(control);
+    const HWND next = GetNextDlgTabItem(parent, control, FALSE);
+    if (next == nullptr || next == control)
+        return;
+    // Dialogs move their default button along with the focus; other parents do nothing.
+    SendMessageW(parent, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE); // NOLINT: a handle
+    if (hasFocus(control))
+        SetFocus(next);
+}
+
+} // namespace
+
+INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, HWND parent, HMODULE module)
+{
+    DialogTemplate loaded;
+    if (loaded.load(module, resource)) {
+        setDialogTemplateFont(loaded);
+        if (const auto result = dialog.run(loaded, parent, module))
+            return *result;
+    }
+    const std::string reason = systemErrorText(GetLastError());
+    get_log() << "runModalDialog(" << resource << ") - initialisation error: " << reason << endl;
+    return IDCANCEL;
+}
+
+void setDialogTemplateFont(DialogTemplate& dialog)
+{
+    const bool isNonAnsi = FontUtil::isNonAnsiSystem();
+    applyFontRule(dialog, isNonAnsi, !isNonAnsi && FontUtil::hasSmallFonts());
+}
+
+bool disableControl(HWND control)
+{
+    passFocusOn(control);
+    return EnableWindow(control, FALSE) != 0;
+}
+
+bool enableControl(HWND control, bool enable)
+{
+    const bool isEnabled = IsWindowEnabled(control) != 0;
+    if (isEnabled == enable)
+        return isEnabled;
+    return enable ? EnableWindow(control, TRUE) != 0 : disableControl(control);
+}
+
+bool showControl(HWND control, bool show)
+{
+    if (!show)
+        passFocusOn(control);
+    return ShowWindow(control, show ? SW_SHOW : SW_HIDE) != 0;
+}
+
+bool isComboBox(HWND window)
+{
+    // Too short for the names of other classes that begin alike, on purpose.
+    std::array<char, 10> name = {};
+    GetClassNameA(window, name.data(), static_cast<int>(name.size()));
+    return lstrcmpiA(name.data(), "combobox") == 0;
+}
+
+bool isDropDownList(HWND comboBox)
+{
+    const auto style = static_cast<DWORD>(GetWindowLongA(comboBox, GWL_STYLE));
+    return (style & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
+}
+
+} // namespace Pelmora::Native

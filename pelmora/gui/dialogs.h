@@ -1,0 +1,47 @@
+#pragma once
+
+#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/ModalDialog.h"
+#include "pelmora/platform/export.h"
+
+#include <cstdint>
+
+#include <windows.h>
+
+// Dialogs and their controls. Windows belong to one thread, which is the one to call this for them.
+
+namespace Pelmora::Native
+{
+
+/// Runs a dialog from a template in a module's resources, null for the program's own, with the
+/// font that `setDialogTemplateFont` chooses, and gives its result. IDCANCEL, with one line in the
+/// error log, when there is no such template or no dialog can be made of it. What the dialog throws
+/// is thrown.
+PELMORA_API INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, HWND parent,
+                                   HMODULE module = nullptr);
+
+/// Gives a template the font that the system reads best at a small size: where the system's
+/// character set is not ANSI, 7 points of the template's own face, if it has one; elsewhere "Small
+/// Fonts" of 7 points, if that is installed.
+PELMORA_API void setDialogTemplateFont(DialogTemplate& dialog);
+
+/// Disables a control. If it, or a window within it, has the keyboard focus, that goes to the next
+/// control in tab order first, when there is one. Whether the control was disabled before.
+PELMORA_API bool disableControl(HWND control);
+
+/// Enables or disables a control, as `disableControl` does. Its state before, when that is the one
+/// asked for and nothing is done; otherwise whether it was disabled before.
+PELMORA_API bool enableControl(HWND control, bool enable);
+
+/// Shows or hides a control, passing the focus on before it is hidden. Whether it was visible
+/// before.
+PELMORA_API bool showControl(HWND control, bool show);
+
+/// Whether the window's class is the system's combo box. The extended one is none.
+PELMORA_API bool isComboBox(HWND window);
+
+/// Whether a combo box is a drop-down list, whose text cannot be edited. Other windows may seem to
+/// be one.
+PELMORA_API bool isDropDownList(HWND comboBox);
+
+} // namespace Pelmora::Native

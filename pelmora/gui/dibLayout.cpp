@@ -1,0 +1,87 @@
+#include "pelmora/gui/dibLayout.h"
+
+#include "pelmora/gui/littleEndian.h"
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+constexpr std::uint64_t smallestHeader = 40;
+
+enum Compression : std::uint32_t { uncompressed = 0, bitFields = 3, alphaBitFields = 6 };
+
+/// The fields of a BITMAPINFOHEADER that tell how large everything is.
+struct Header {
+    std::uint64_t size;
+    std::int64_t width;
+    std::int64_t height; ///< negative: top-down
+    std::uint32_t bitCount;
+    std::uint32_t compression;
+    std::uint64_t imageSize;
+    std::uint64_t coloursUsed;
+};
+
+Header headerOf(std::span<const std::byte> resource)
+{
+    return {readNumber<std::uint32_t>(resource, 0),  readNumber<std::int32_t>(resource, 4),
+            readNumber<std::int32_t>(resource, 8),   readNumber<std::uint16_t>(resource, 14),
+            readNumber<std::uint32_t>(resource, 16), readNumber<std::uint32_t>(resource, 20),
+            readNumber<std::uint32_t>(resource, 32)};
+}
+
+/// None for a combination that is refused.
+std::optional<std::uint64_t> colourTableEntries(const Header& header)
+{
+    if (header.coloursUsed != 0)
+        return header.bitCount >= 16 || header.coloursUsed == 0xFFFFFFFF
+                   ? std::nullopt
+                   : std::optional(header.coloursUsed);
+    switch (header.bitCount) {
+    case 1: // as many as with 4 bits, on purpose
+    case 4:
+        return 16;
+    case 8:
+        return 256;
+    case 16:
+    case 24:
+    case 32:
+        return 0;
+    default:
+        return std::nullopt;
+    }
+}
+
+/// Whether the pixels, and what else follows the header, are not more than these bytes.
+bool fits(const Header& header, std::uint64_t room)
+{
+    const bool hasMasks = header.compression == bitFields || header.compression == alphaBitFields;
+    constexpr std::uint64_t masks = 16;
+    if (hasMasks && header.size == smallestHeader && room < masks)
+        return false;
+    if (header.compression != uncompressed && !hasMasks)
+        return header.imageSize <= room;
+    const std::uint64_t lineBits = static_cast<std::uint64_t>(header.width) * header.bitCount;
+    const std::uint64_t line = (lineBits + 31) / 32 * 4;
+    const auto lines =
+        static_cast<std::uint64_t>(header.height < 0 ? -header.height : header.height);
+    return line == 0 || lines <= room / line;
+}
+
+} // namespace
+
+std::optional<std::size_t> dibPixelOffset(std::span<const std::byte> resource)
+{
+    if (resource.size() < smallestHeader)
+        return std::nullopt;
+    const Header header = headerOf(resource);
+    const auto entries = colourTableEntries(header);
+    if (header.size < smallestHeader || header.width < 0 || !entries)
+        return std::nullopt;
+    const std::uint64_t offset = header.size + 4 * *entries;
+    if (offset > resource.size() || !fits(header, resource.size() - offset))
+        return std::nullopt;
+    return static_cast<std::size_t>(offset);
+}
+
+} // namespace Pelmora::Native

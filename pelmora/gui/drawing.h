@@ -1,0 +1,42 @@
+#pragma once
+
+#include "pelmora/platform/export.h"
+
+#include <cstdint>
+
+#include <windows.h>
+
+// Drawing on device contexts. Nothing here throws; a device context is used by one thread at a
+// time.
+
+namespace Pelmora::Native
+{
+
+/// A rectangle by its corner and its size, in logical units of a device context or in pixels of a
+/// picture, which are counted from its lower left corner.
+struct Area {
+    int x;
+    int y;
+    int width;
+    int height;
+};
+
+/// Draws the part `source` of a bitmap resource (type RT_BITMAP) of a module, null for the
+/// program's own, scaled into `destination`; areas of no size and mirrored ones are up to the
+/// system. False when it is not drawn, with one line in the error log: when there is no such
+/// resource, or its header is not one of a BITMAPINFOHEADER that fits its size, nothing is touched.
+/// Bitmaps of 1, 4, 8, 16, 24 and 32 bits; one of 1 bit without a number of colours needs a colour
+/// table of 16 entries.
+PELMORA_API bool showDib(HDC dc, std::uint16_t resource, const Area& destination,
+                         const Area& source, HMODULE module = nullptr);
+
+/// The same for a bitmap in memory. Requires: colour table and `bits` are as long as `information`
+/// says; that is not checked.
+PELMORA_API bool showDib(HDC dc, const BITMAPINFO* information, const void* bits,
+                         const Area& destination, const Area& source);
+
+/// Fills the rectangle with a colour, right and bottom exclusive; the column left of it and the
+/// line above it are filled too. One that is 2 units or less wide or high is not drawn, on purpose.
+PELMORA_API void drawSolidRect(HDC dc, int left, int top, int right, int bottom, COLORREF colour);
+
+} // namespace Pelmora::Native

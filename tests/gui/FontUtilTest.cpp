@@ -1,0 +1,86 @@
+#include "pelmora/gui/FontUtil.h"
+
+#include "tests/gui/Canvas.h"
+
+#include <tuple>
+
+#include <gtest/gtest.h>
+
+namespace Pelmora::Native
+{
+namespace
+{
+
+TEST(FontUtil, FontsAreWhatWasAskedFor)
+{
+    const Canvas canvas;
+    const HGDIOBJ selected = GetCurrentObject(canvas.dc(), OBJ_FONT);
+    for (const auto& [height, bold] : {std::pair(-13, false), {20, true}}) {
+        Font font;
+        EXPECT_TRUE(FontUtil::create(font, GString(u"Tahoma"), height, bold, !bold));
+        LOGFONTA found = {};
+        GetObjectA(font.get(), sizeof found, &found);
+        EXPECT_STREQ(found.lfFaceName, "Tahoma");
+        EXPECT_EQ(found.lfHeight, height);
+        EXPECT_EQ(found.lfWeight, bold ? 700 : 400);
+        EXPECT_EQ(found.lfItalic, bold ? 0 : 1);
+        EXPECT_EQ(found.lfPitchAndFamily, 32);
+        TEXTMETRICA metrics;
+        FontUtil::textMetrics(metrics, font.get());
+        EXPECT_EQ(height > 0 ? metrics.tmHeight : metrics.tmInternalLeading - metrics.tmHeight,
+                  height);
+        EXPECT_EQ(FontUtil::textHeight(font.get(), canvas.dc()), metrics.tmHeight);
+        EXPECT_EQ(GetCurrentObject(canvas.dc(), OBJ_FONT), selected);
+    }
+}
+
+TEST(FontUtil, FacesThatAreInstalled)
+{
+    const char* const smallFonts = "Z:\\usr\\share\\wine\\fonts\\smalle.fon";
+    EXPECT_GT(AddFontResourceA(smallFonts), 0);
+    EXPECT_TRUE(FontUtil::existsAnyCharset(u"Small Fonts"));
+    const bool first = FontUtil::hasSmallFonts(); // or asked earlier, by another test
+    RemoveFontResourceA(smallFonts);
+    EXPECT_EQ(FontUtil::hasSmallFonts(), first);
+    EXPECT_EQ(FontUtil::systemCharset(), ANSI_CHARSET); // of Wine's code page 1252
+    EXPECT_FALSE(FontUtil::isNonAnsiSystem());
+    EXPECT_TRUE(FontUtil::exists(u"Liberation Sans", ANSI_CHARSET));
+    EXPECT_FALSE(FontUtil::exists("Liberation Sans", SHIFTJIS_CHARSET));
+    EXPECT_FALSE(FontUtil::existsAnyCharset("No such face"));
+}
+
+TEST(FontUtil, SizesAndHeights)
+{
+    const Canvas canvas; // 96 dots an inch, as the screen
+    const std::tuple<int, int, int> rows[] = {
+        // number, as a size in height, as a height in size
+        {100, -13, 750}, {13, -1, 97}, {-13, -1, -97}, {0, 0, 0}, {7, 0, 52},
+    };
+    for (const auto& [number, height, decipoints] : rows) {
+        for (HDC dc : {HDC(nullptr), canvas.dc()}) {
+            EXPECT_EQ(FontUtil::decipointsToHeight(number, dc), height);
+            EXPECT_EQ(FontUtil::heightToDecipoints(number, dc), decipoints);
+        }
+    }
+    SetMapMode(canvas.dc(), MM_TWIPS); // 15 logical units a pixel, upside down
+    EXPECT_EQ(FontUtil::heightToDecipoints(195, canvas.dc()), -97);
+    SetViewportOrgEx(canvas.dc(), 0, 30, nullptr);
+    EXPECT_EQ(FontUtil::decipointsToHeight(100, canvas.dc()), -195);
+}
+
+TEST(FontUtil, NothingLeaks)
+{
+    // A process has some 65,000 handles: one kept in every round would be missing before the end.
+    Font font;
+    for (int round = 0; round < 70'000; ++round) {
+        ASSERT_TRUE(font.attach(FontUtil::createHandle("Tahoma", -13, false, false)));
+        ASSERT_GT(FontUtil::textHeight(font.get()), 0);
+        ASSERT_EQ(FontUtil::decipointsToHeight(100), -13);
+    }
+    Font other(std::move(font));
+    font = std::move(other);
+    EXPECT_EQ(GetObjectType(font.get()), DWORD(OBJ_FONT));
+}
+
+} // namespace
+} // namespace Pelmora::Native
