@@ -1,6 +1,7 @@
 #include "Order.h"
 
 #include "drugNames.h"
+#include "fieldTexts.h"
 #include "quantity.h"
 #include "translation.h"
 
@@ -35,20 +36,6 @@ bool isAbsent(std::string_view field)
 {
     return field.empty() || field == "-";
 }
-
-/// What is said about one field of an order.
-struct FieldTexts {
-    const char* missing;
-    const char* unreadable; ///< with the reason
-};
-
-constexpr FieldTexts doseTexts = {N_("the dose is missing"), N_("the dose cannot be read: %s")};
-constexpr FieldTexts amountTexts = {N_("the amount of drug in the bag is missing"),
-                                    N_("the amount of drug in the bag cannot be read: %s")};
-constexpr FieldTexts volumeTexts = {N_("the volume of the bag is missing"),
-                                    N_("the volume of the bag cannot be read: %s")};
-constexpr FieldTexts weightTexts = {N_("the weight is missing"),
-                                    N_("the weight cannot be read: %s")};
 
 UnitValue readQuantity(const FieldTexts& texts, std::string_view field, Grams grams)
 {

@@ -40,6 +40,14 @@ constexpr DrugName drugNames[] = {
 
 } // namespace
 
+std::vector<DrugEnum> infusionDrugs()
+{
+    std::vector<DrugEnum> drugs;
+    for (const DrugName& row : drugNames)
+        drugs.push_back(row.drug);
+    return drugs;
+}
+
 std::optional<DrugEnum> drugOfName(std::string_view vocabularyName)
 {
     for (const DrugName& row : drugNames)

@@ -4,9 +4,13 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace Infusions
 {
+
+/// The drugs that are given as infusions.
+std::vector<Pelmora::DrugEnum> infusionDrugs();
 
 /// The drug of a vocabulary name, "DOPAMINE", among those that are given as infusions.
 std::optional<Pelmora::DrugEnum> drugOfName(std::string_view vocabularyName);

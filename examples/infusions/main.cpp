@@ -63,13 +63,6 @@ int run(const std::string& fileName)
     return refused.empty() ? allCalculated : someRefused;
 }
 
-void speak(const std::string& language)
-{
-    Pelmora::Init::init(Pelmora::GString(language));
-    Pelmora::Native::gettext_locale.set_translator(Pelmora::Native::translate_from_catalogue);
-    Pelmora::Native::gettext_locale.set_log_missing(true);
-}
-
 } // namespace
 
 int main(int argumentCount, char** argumentValues)
@@ -82,7 +75,7 @@ int main(int argumentCount, char** argumentValues)
     }
     try {
         if (hasLanguage)
-            speak(arguments[1]);
+            Infusions::speak(arguments[1]);
         const int status = run(arguments.back());
         if (hasLanguage)
             std::cerr << tr("Untranslated texts are listed in").to_utf8() << ' '

@@ -2,6 +2,8 @@
 
 #include "pelmora/gettext/TextLocale.h"
 
+#include <string>
+
 namespace Infusions
 {
 
@@ -10,6 +12,10 @@ inline Pelmora::GString tr(const char* text)
 {
     return Pelmora::Native::gettext_locale.tr(text);
 }
+
+/// Makes a language code or a catalogue (.mo) the language of the user; texts that it does not
+/// translate are listed in the error log. Throws as Pelmora::Init::init does.
+void speak(const std::string& language);
 
 /// Marks a text that is translated where it is used.
 constexpr const char* N_(const char* text)

@@ -1,0 +1,230 @@
+#include "BedsideDialog.h"
+
+#include "OrderFields.h"
+#include "controls.h"
+#include "dialogTexts.h"
+#include "drawings.h"
+#include "labValues.h"
+#include "orderControls.h"
+#include "windowText.h"
+
+#include "infusions/translation.h"
+
+#include "pelmora/formatter/Formatter.h"
+#include "pelmora/gui/dateTime.h"
+#include "pelmora/gui/dialogs.h"
+
+#include <commctrl.h>
+#include <shellapi.h>
+
+namespace Bedside
+{
+namespace
+{
+
+using Infusions::tr;
+using Pelmora::GString;
+using Pelmora::Native::Font;
+namespace Native = Pelmora::Native;
+
+constexpr double patientKg = 70;
+constexpr INT_PTR closed = IDOK;
+
+/// Gives a control a font of the dialog's face in another size, bold.
+void emphasise(HWND control, Font& font, int decipoints)
+{
+    LOGFONTW look = {};
+    const auto current =
+        reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)); // NOLINT: a handle
+    GetObjectW(current, sizeof look, &look);
+    Native::FontUtil::create(font, GString(look.lfFaceName),
+                             Native::FontUtil::decipointsToHeight(decipoints), true, false);
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE); // NOLINT
+}
+
+/// Puts one button into the place of another in sight, tab order and focus.
+void exchange(HWND shown, HWND hidden)
+{
+    constexpr UINT orderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+    // Where a hidden control's focus goes is the next one in tab order.
+    SetWindowPos(hidden, shown, 0, 0, 0, 0, orderOnly);
+    Native::showControl(hidden, true);
+    Native::showControl(shown, false);
+}
+
+} // namespace
+
+bool BedsideDialog::show()
+{
+    const INITCOMMONCONTROLSEX links = {sizeof links, ICC_LINK_CLASS};
+    InitCommonControlsEx(&links);
+    const INT_PTR result = Native::runModalDialog(*this, BEDSIDE_DIALOG, nullptr);
+    timer_.reset();
+    return result == closed;
+}
+
+INT_PTR BedsideDialog::handleMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_INITDIALOG:
+        begin();
+        return TRUE; // the first control gets the focus
+    case WM_COMMAND:
+        command(LOWORD(wParam), HIWORD(wParam));
+        return TRUE;
+    case WM_TIMER:
+        tick();
+        return TRUE;
+    case WM_DRAWITEM:
+        return draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); // NOLINT: by its message
+    case WM_CTLCOLORSTATIC:
+        return colour(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)); // NOLINT
+    case WM_NOTIFY:
+        openLink(*reinterpret_cast<const NMHDR*>(lParam)); // NOLINT: by its message
+        return TRUE;
+    case WM_EXITSIZEMOVE: // perhaps to another monitor
+    case WM_DISPLAYCHANGE:
+        InvalidateRect(control(ID_RULER), nullptr, TRUE);
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+void BedsideDialog::begin()
+{
+    constexpr UINT everySecond = 1000;
+    constexpr int nameDecipoints = 90;
+    constexpr int rateDecipoints = 180;
+    emphasise(control(ID_PATIENT_NAME), nameFont_, nameDecipoints);
+    emphasise(control(ID_RATE), rateFont_, rateDecipoints);
+    showDialogTexts(window(), patientKg);
+    fillOrderControls(window(), patientKg);
+    for (const Panel& panel : panels())
+        addChoice(window(), ID_PANEL, tr(panel.name), static_cast<int>(panel.panel));
+    choose(window(), ID_PANEL, static_cast<int>(Pelmora::VenousPanels::BASIC_METABOLIC_PANEL));
+    showPanel();
+    answer();
+    tick();
+    timer_.emplace(window(), everySecond);
+}
+
+void BedsideDialog::command(int number, int notification)
+{
+    if (number == IDCANCEL)
+        end(closed);
+    else if (number == ID_START)
+        start();
+    else if (number == ID_STOP)
+        stop();
+    else if (number == ID_PANEL && notification == CBN_SELCHANGE)
+        showPanel();
+    else if (number == ID_DRUG && notification == CBN_SELCHANGE)
+        enterPreset(window());
+    if (changesOrder(number, notification))
+        answer();
+}
+
+void BedsideDialog::answer()
+{
+    if (started_)
+        return;
+    const OrderAnswer answer = answerOrder(orderFields(window()));
+    infusion_ = answer.infusion;
+    showText(window(), ID_RATE, answer.pumpRate);
+    showText(window(), ID_ORDERED, answer.dose);
+    showText(window(), ID_STRENGTH, answer.concentration);
+    showText(window(), ID_ERROR, answer.error);
+    showText(window(), ID_GIVEN, noResult());
+    showText(window(), ID_LASTS, infusion_ ? infusion_->lastsAfter({}) : noResult());
+    enableOrderControls(window(), true);
+    Native::enableControl(control(ID_START), infusion_.has_value());
+}
+
+void BedsideDialog::start()
+{
+    if (!infusion_ || started_)
+        return;
+    started_ = Clock::now();
+    exchange(control(ID_START), control(ID_STOP));
+    enableOrderControls(window(), false);
+    showText(window(), ID_PUMP_GROUP, tr("Infusion pump: running"));
+    showRunning();
+}
+
+void BedsideDialog::stop()
+{
+    if (!started_)
+        return;
+    showRunning();
+    started_.reset();
+    exchange(control(ID_STOP), control(ID_START));
+    enableOrderControls(window(), true);
+    showText(window(), ID_PUMP_GROUP, tr("Infusion pump: stopped"));
+}
+
+void BedsideDialog::showRunning()
+{
+    constexpr int decimals = 2;
+    const auto elapsed = Clock::now() - *started_;
+    showText(window(), ID_GIVEN, infusion_->givenAfter(elapsed).ToString(decimals));
+    showText(window(), ID_LASTS, infusion_->lastsAfter(elapsed));
+}
+
+void BedsideDialog::tick()
+{
+    showText(window(), ID_CLOCK,
+             GString(Native::currentDateText(true) + "  " + Native::currentTimeText(true)));
+    if (started_)
+        showRunning();
+}
+
+void BedsideDialog::showPanel()
+{
+    const auto panel = static_cast<Pelmora::VenousPanels>(chosen(window(), ID_PANEL));
+    std::vector<LabText> rows = labTexts(panel);
+    const auto filled = static_cast<int>(rows.size());
+    rows.resize(mostLabTexts);
+    for (int i = 0; i < mostLabTexts; ++i) {
+        const LabText& row = rows[static_cast<std::size_t>(i)];
+        showText(window(), ID_LAB_NAMES + i, row.name);
+        showText(window(), ID_LAB_VALUES + i, row.value);
+        Native::showControl(control(ID_LAB_NAMES + i), i < filled);
+        Native::showControl(control(ID_LAB_VALUES + i), i < filled);
+    }
+}
+
+INT_PTR BedsideDialog::draw(const DRAWITEMSTRUCT& item) const
+{
+    if (item.CtlID == ID_PICTURE)
+        drawPatient(item.hDC, item.rcItem);
+    else if (item.CtlID == ID_RULER)
+        drawRuler(item.hDC, item.rcItem, window());
+    return TRUE;
+}
+
+INT_PTR BedsideDialog::colour(HDC dc, HWND shown) const
+{
+    constexpr COLORREF errorRed = RGB(190, 20, 20);
+    constexpr COLORREF rateBlue = RGB(12, 64, 120);
+    const int number = GetDlgCtrlID(shown);
+    if (number != ID_ERROR && number != ID_RATE)
+        return FALSE;
+    const int background = number == ID_RATE ? COLOR_WINDOW : COLOR_BTNFACE;
+    SetTextColor(dc, number == ID_RATE ? rateBlue : errorRed);
+    SetBkColor(dc, GetSysColor(background));
+    return reinterpret_cast<INT_PTR>(GetSysColorBrush(background)); // NOLINT: a handle
+}
+
+void BedsideDialog::openLink(const NMHDR& notification) const
+{
+    if (notification.idFrom != ID_LINK ||
+        (notification.code != NM_CLICK && notification.code != NM_RETURN))
+        return;
+    const auto& link = reinterpret_cast<const NMLINK&>(notification); // NOLINT: by its code
+    const auto target =
+        Native::Formatter::unescape(Native::Formatter::WideStringView(link.item.szUrl));
+    ShellExecuteW(window(), L"open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+} // namespace Bedside

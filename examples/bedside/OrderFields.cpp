@@ -1,0 +1,98 @@
+#include "OrderFields.h"
+
+#include "numberField.h"
+#include "units.h"
+
+#include "infusions/Order.h"
+#include "infusions/fieldTexts.h"
+#include "infusions/quantity.h"
+
+namespace Bedside
+{
+namespace
+{
+
+using Infusions::FieldTexts;
+using Infusions::Grams;
+using Infusions::N_;
+using Infusions::Order;
+using Infusions::OrderError;
+using Infusions::tr;
+using Pelmora::GString;
+using Pelmora::UnitValue;
+
+constexpr int significantDigits = 3;
+
+UnitValue readField(const FieldTexts& texts, const GString& number, const std::string& unit,
+                    Grams grams = Grams::ofDrug)
+{
+    if (isBlank(number))
+        throw OrderError(tr(texts.missing));
+    try {
+        return Infusions::quantity(plainNumber(number) + ' ' + unit, grams);
+    } catch (const Infusions::QuantityError& error) {
+        throw OrderError(GString::format(tr(texts.unreadable), GString::from_utf8(error.what())));
+    }
+}
+
+Order readOrder(const OrderFields& fields)
+{
+    Order order = {};
+    order.drug = fields.drug;
+    order.dose = readField(Infusions::doseTexts, fields.dose, fields.doseUnit);
+    if (order.dose.unit->unitIsPrPt())
+        order.weight = readField(Infusions::weightTexts, fields.weight, "kg", Grams::ofPatient);
+    order.amount = readField(Infusions::amountTexts, fields.amount, fields.amountUnit);
+    order.volume = readField(Infusions::volumeTexts, fields.volume, "mL");
+    return order;
+}
+
+/// Throws OrderError for a rate, in mL/hr, that no infusion pump runs at.
+void checkRate(const UnitValue& rate)
+{
+    const UnitValue slowest(0.1, millilitrePerHour());
+    const UnitValue fastest(1200, millilitrePerHour());
+    if (rate.value >= slowest.value && rate.value <= fastest.value)
+        return;
+    throw OrderError(GString::format(tr(N_("a pump cannot run at %s, only at %s to %s")),
+                                     rate.toNormalizedString(significantDigits),
+                                     slowest.ToString(1), fastest.ToString(0)));
+}
+
+/// The messages are written to stand behind a colon.
+GString sentence(const GString& message)
+{
+    const GString::View text = message;
+    return GString(text.substr(0, 1)).to_upper() +
+           GString(text.substr(std::min<std::size_t>(text.size(), 1)));
+}
+
+} // namespace
+
+GString noResult()
+{
+    return u"\u2013";
+}
+
+bool isPerWeight(const std::string& doseUnit)
+{
+    return Infusions::quantity("1 " + doseUnit).unit->unitIsPrPt();
+}
+
+OrderAnswer answerOrder(const OrderFields& fields)
+{
+    try {
+        const Order order = readOrder(fields);
+        const UnitValue rate = Infusions::pumpRate(order);
+        checkRate(rate);
+        return {order.dose.toNormalizedString(significantDigits),
+                Infusions::concentration(order).toNormalizedString(significantDigits),
+                rate.toNormalizedString(significantDigits),
+                {},
+                Infusion{rate, order.volume}};
+    } catch (const OrderError& error) {
+        return {noResult(), noResult(), noResult(), sentence(GString::from_utf8(error.what())), {}};
+    }
+}
+
+} // namespace Bedside

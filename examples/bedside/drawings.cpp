@@ -1,0 +1,117 @@
+#include "drawings.h"
+
+#include "controls.h"
+
+#include "infusions/translation.h"
+
+#include "pelmora/gui/FontUtil.h"
+#include "pelmora/gui/drawing.h"
+#include "pelmora/gui/monitors.h"
+
+#include <algorithm>
+
+namespace Bedside
+{
+namespace
+{
+
+using Infusions::tr;
+using Pelmora::GString;
+namespace Native = Pelmora::Native;
+
+constexpr COLORREF paper = RGB(255, 255, 255);
+constexpr COLORREF frame = RGB(172, 178, 186);
+constexpr COLORREF ink = RGB(60, 66, 74);
+
+/// A font selected into a device context, which has its own back before the font goes.
+class WithFont
+{
+public:
+    WithFont(HDC dc, HFONT font) noexcept : dc_(dc), previous_(SelectObject(dc, font)) {}
+    WithFont(const WithFont&) = delete;
+    WithFont& operator=(const WithFont&) = delete;
+    ~WithFont() { SelectObject(dc_, previous_); }
+
+private:
+    HDC dc_;
+    HGDIOBJ previous_;
+};
+
+RECT drawCard(HDC dc, const RECT& area)
+{
+    Native::drawSolidRect(dc, area.left, area.top, area.right, area.bottom, frame);
+    RECT inside = area;
+    InflateRect(&inside, -1, -1);
+    Native::drawSolidRect(dc, inside.left, inside.top, inside.right, inside.bottom, paper);
+    return inside;
+}
+
+void drawLabel(HDC dc, const GString& text, RECT area, UINT format)
+{
+    SetTextColor(dc, ink);
+    SetBkMode(dc, TRANSPARENT);
+    DrawTextW(dc, text.to_w_str(), -1, &area, format | DT_NOPREFIX);
+}
+
+/// Ticks are 3 pixels wide, because thinner rectangles are not drawn.
+void drawTick(HDC dc, int x, int top, int length)
+{
+    Native::drawSolidRect(dc, x - 1, top, x + 2, top + length, ink);
+}
+
+void drawCentimetres(HDC dc, const RECT& area, int pixelsPerCm)
+{
+    constexpr int margin = 10;
+    constexpr int longTick = 9;
+    constexpr int shortTick = 5;
+    constexpr int labelWidth = 30;
+    const int start = area.left + margin;
+    const int end = area.right - margin;
+    for (int x = start, cm = 0; x < end; x += pixelsPerCm, ++cm) {
+        drawTick(dc, x, area.top, longTick);
+        if (const int half = x + pixelsPerCm / 2; half < end)
+            drawTick(dc, half, area.top, shortTick);
+        const GString number = GString::from_number(cm, "%d");
+        const RECT below = {x - labelWidth, area.top + longTick, x + labelWidth, area.bottom};
+        drawLabel(dc, cm == 0 ? number + u" cm" : number, below,
+                  DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    }
+}
+
+} // namespace
+
+void drawPatient(HDC dc, const RECT& area)
+{
+    constexpr int width = 138;
+    constexpr int height = 136;
+    const RECT inside = drawCard(dc, area);
+    const int roomX = inside.right - inside.left;
+    const int roomY = inside.bottom - inside.top;
+    const double scale =
+        std::min({1.0, double(roomX) / double(width), double(roomY) / double(height)});
+    const int shownX = static_cast<int>(width * scale);
+    const int shownY = static_cast<int>(height * scale);
+    Native::showDib(
+        dc, BEDSIDE_PATIENT,
+        {inside.left + (roomX - shownX) / 2, inside.top + (roomY - shownY) / 2, shownX, shownY},
+        {0, 0, width, height});
+}
+
+void drawRuler(HDC dc, const RECT& area, HWND window)
+{
+    constexpr int decipoints = 70;
+    const RECT inside = drawCard(dc, area);
+    Native::Font font;
+    Native::FontUtil::create(font, "Tahoma", Native::FontUtil::decipointsToHeight(decipoints, dc),
+                             false, false);
+    const WithFont selected(dc, font.get());
+    if (const int pixelsPerCm = Native::getMonitorPixelsPerCm(window); pixelsPerCm > 0) {
+        drawCentimetres(dc, inside, pixelsPerCm);
+    } else {
+        const GString monitor(Native::getMonitorIdentifier(window));
+        drawLabel(dc, GString::format(tr("The width of this monitor is not known: %s"), monitor),
+                  inside, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+    }
+}
+
+} // namespace Bedside

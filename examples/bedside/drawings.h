@@ -1,0 +1,17 @@
+#pragma once
+
+#include <windows.h>
+
+// What the window's owner-drawn controls show.
+
+namespace Bedside
+{
+
+/// The patient's picture, as large as it fits without being enlarged.
+void drawPatient(HDC dc, const RECT& area);
+
+/// Centimetres as long as they are on the screen of the window's monitor, or a text that says that
+/// the monitor is not known.
+void drawRuler(HDC dc, const RECT& area, HWND window);
+
+} // namespace Bedside

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pelmora/pelmora.h"
+
+#include <initializer_list>
+#include <memory>
+
+namespace Bedside
+{
+
+std::shared_ptr<Pelmora::Unit> makeUnit(std::initializer_list<Pelmora::UnitElement> elements);
+
+std::shared_ptr<Pelmora::Unit> millilitre();
+std::shared_ptr<Pelmora::Unit> millilitrePerHour();
+std::shared_ptr<Pelmora::Unit> kilogramOfPatient();
+
+} // namespace Bedside
