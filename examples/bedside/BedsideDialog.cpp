@@ -30,16 +30,21 @@ namespace Native = Pelmora::Native;
 constexpr double patientKg = 70;
 constexpr INT_PTR closed = IDOK;
 
-/// Gives a control a font of the dialog's face in another size, bold.
-void emphasise(HWND control, Font& font, int decipoints)
+/// Gives a control a bold font of another size.
+void emphasise(HWND control, Font& font, const GString& face, int decipoints)
+{
+    Native::FontUtil::create(font, face, Native::FontUtil::decipointsToHeight(decipoints), true,
+                             false);
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE); // NOLINT
+}
+
+GString faceOf(HWND control)
 {
     LOGFONTW look = {};
-    const auto current =
+    const auto font =
         reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)); // NOLINT: a handle
-    GetObjectW(current, sizeof look, &look);
-    Native::FontUtil::create(font, GString(look.lfFaceName),
-                             Native::FontUtil::decipointsToHeight(decipoints), true, false);
-    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE); // NOLINT
+    GetObjectW(font, sizeof look, &look);
+    return look.lfFaceName;
 }
 
 /// Puts one button into the place of another in sight, tab order and focus.
@@ -96,13 +101,14 @@ void BedsideDialog::begin()
     constexpr UINT everySecond = 1000;
     constexpr int nameDecipoints = 90;
     constexpr int rateDecipoints = 180;
-    emphasise(control(ID_PATIENT_NAME), nameFont_, nameDecipoints);
-    emphasise(control(ID_RATE), rateFont_, rateDecipoints);
+    emphasise(control(ID_PATIENT_NAME), nameFont_, faceOf(window()), nameDecipoints);
+    emphasise(control(ID_RATE), rateFont_, u"Arial", rateDecipoints);
     showDialogTexts(window(), patientKg);
     fillOrderControls(window(), patientKg);
     for (const Panel& panel : panels())
         addChoice(window(), ID_PANEL, tr(panel.name), static_cast<int>(panel.panel));
-    choose(window(), ID_PANEL, static_cast<int>(Pelmora::VenousPanels::BASIC_METABOLIC_PANEL));
+    choose(window(), ID_PANEL,
+           static_cast<int>(Pelmora::VenousPanels::COMPREHENSIVE_METABOLIC_PANEL));
     showPanel();
     answer();
     tick();

@@ -19,8 +19,6 @@ using Infusions::tr;
 using Pelmora::GString;
 namespace Native = Pelmora::Native;
 
-constexpr COLORREF paper = RGB(255, 255, 255);
-constexpr COLORREF frame = RGB(172, 178, 186);
 constexpr COLORREF ink = RGB(60, 66, 74);
 
 /// A font selected into a device context, which has its own back before the font goes.
@@ -37,12 +35,13 @@ private:
     HGDIOBJ previous_;
 };
 
+/// A white area with a thin frame; gives what is inside.
 RECT drawCard(HDC dc, const RECT& area)
 {
-    Native::drawSolidRect(dc, area.left, area.top, area.right, area.bottom, frame);
+    FillRect(dc, &area, GetSysColorBrush(COLOR_WINDOW));
+    FrameRect(dc, &area, GetSysColorBrush(COLOR_BTNSHADOW));
     RECT inside = area;
     InflateRect(&inside, -1, -1);
-    Native::drawSolidRect(dc, inside.left, inside.top, inside.right, inside.bottom, paper);
     return inside;
 }
 
@@ -59,22 +58,22 @@ void drawTick(HDC dc, int x, int top, int length)
     Native::drawSolidRect(dc, x - 1, top, x + 2, top + length, ink);
 }
 
-void drawCentimetres(HDC dc, const RECT& area, int pixelsPerCm)
+void drawCentimetres(HDC dc, RECT area, int pixelsPerCm)
 {
-    constexpr int margin = 10;
+    constexpr int margin = 12;
+    constexpr int unitWidth = 22;
     constexpr int longTick = 9;
     constexpr int shortTick = 5;
-    constexpr int labelWidth = 30;
-    const int start = area.left + margin;
-    const int end = area.right - margin;
-    for (int x = start, cm = 0; x < end; x += pixelsPerCm, ++cm) {
+    constexpr UINT centred = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+    area.right -= margin;
+    RECT unit = {area.right - unitWidth, area.top + longTick, area.right, area.bottom};
+    drawLabel(dc, u"cm", unit, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
+    for (int x = area.left + margin, cm = 0; x < unit.left; x += pixelsPerCm, ++cm) {
         drawTick(dc, x, area.top, longTick);
-        if (const int half = x + pixelsPerCm / 2; half < end)
+        if (const int half = x + pixelsPerCm / 2; half < unit.left)
             drawTick(dc, half, area.top, shortTick);
-        const GString number = GString::from_number(cm, "%d");
-        const RECT below = {x - labelWidth, area.top + longTick, x + labelWidth, area.bottom};
-        drawLabel(dc, cm == 0 ? number + u" cm" : number, below,
-                  DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        const RECT below = {x - margin, unit.top, x + margin, area.bottom};
+        drawLabel(dc, GString::from_number(cm, "%d"), below, centred);
     }
 }
 
