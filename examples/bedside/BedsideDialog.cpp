@@ -31,11 +31,17 @@ constexpr double patientKg = 70;
 constexpr INT_PTR closed = IDOK;
 
 /// Gives a control a bold font of another size.
-void emphasise(HWND control, Font& font, const GString& face, int decipoints)
+void emphasise(HWND control, Font& font, const GString& face, int height)
 {
-    Native::FontUtil::create(font, face, Native::FontUtil::decipointsToHeight(decipoints), true,
-                             false);
+    Native::FontUtil::create(font, face, height, true, false);
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE); // NOLINT
+}
+
+int heightOf(HWND control)
+{
+    RECT area = {};
+    GetClientRect(control, &area);
+    return static_cast<int>(area.bottom);
 }
 
 GString faceOf(HWND control)
@@ -100,9 +106,9 @@ void BedsideDialog::begin()
 {
     constexpr UINT everySecond = 1000;
     constexpr int nameDecipoints = 90;
-    constexpr int rateDecipoints = 180;
-    emphasise(control(ID_PATIENT_NAME), nameFont_, faceOf(window()), nameDecipoints);
-    emphasise(control(ID_RATE), rateFont_, u"Arial", rateDecipoints);
+    emphasise(control(ID_PATIENT_NAME), nameFont_, faceOf(window()),
+              Native::FontUtil::decipointsToHeight(nameDecipoints));
+    emphasise(control(ID_RATE), rateFont_, u"Arial", -heightOf(control(ID_RATE)) / 2);
     showDialogTexts(window(), patientKg);
     fillOrderControls(window(), patientKg);
     for (const Panel& panel : panels())
@@ -155,6 +161,7 @@ void BedsideDialog::start()
     exchange(control(ID_START), control(ID_STOP));
     enableOrderControls(window(), false);
     showText(window(), ID_PUMP_GROUP, tr("Infusion pump: running"));
+    InvalidateRect(control(ID_RATE), nullptr, TRUE); // in another colour
     showRunning();
 }
 
@@ -167,6 +174,7 @@ void BedsideDialog::stop()
     exchange(control(ID_STOP), control(ID_START));
     enableOrderControls(window(), true);
     showText(window(), ID_PUMP_GROUP, tr("Infusion pump: stopped"));
+    InvalidateRect(control(ID_RATE), nullptr, TRUE); // in another colour
 }
 
 void BedsideDialog::showRunning()
@@ -212,12 +220,13 @@ INT_PTR BedsideDialog::draw(const DRAWITEMSTRUCT& item) const
 INT_PTR BedsideDialog::colour(HDC dc, HWND shown) const
 {
     constexpr COLORREF errorRed = RGB(190, 20, 20);
-    constexpr COLORREF rateBlue = RGB(12, 64, 120);
+    constexpr COLORREF stoppedBlue = RGB(12, 64, 120);
+    constexpr COLORREF runningGreen = RGB(0, 112, 60);
     const int number = GetDlgCtrlID(shown);
     if (number != ID_ERROR && number != ID_RATE)
         return FALSE;
     const int background = number == ID_RATE ? COLOR_WINDOW : COLOR_BTNFACE;
-    SetTextColor(dc, number == ID_RATE ? rateBlue : errorRed);
+    SetTextColor(dc, number == ID_ERROR ? errorRed : started_ ? runningGreen : stoppedBlue);
     SetBkColor(dc, GetSysColor(background));
     return reinterpret_cast<INT_PTR>(GetSysColorBrush(background)); // NOLINT: a handle
 }

@@ -9,6 +9,7 @@
 #include "pelmora/gui/monitors.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Bedside
 {
@@ -86,8 +87,8 @@ void drawPatient(HDC dc, const RECT& area)
     const RECT inside = drawCard(dc, area);
     const int roomX = inside.right - inside.left;
     const int roomY = inside.bottom - inside.top;
-    const double scale =
-        std::min({1.0, double(roomX) / double(width), double(roomY) / double(height)});
+    const double fit = std::min(double(roomX) / double(width), double(roomY) / double(height));
+    const double scale = fit < 1 ? fit : std::floor(fit);
     const int shownX = static_cast<int>(width * scale);
     const int shownY = static_cast<int>(height * scale);
     Native::showDib(

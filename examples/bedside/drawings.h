@@ -7,7 +7,7 @@
 namespace Bedside
 {
 
-/// The patient's picture, as large as it fits without being enlarged.
+/// The patient's picture in the middle, as large as it fits; enlarged only by whole numbers.
 void drawPatient(HDC dc, const RECT& area);
 
 /// Centimetres as long as they are on the screen of the window's monitor, or a text that says that

@@ -47,6 +47,8 @@ void show(const Scene& scene, const std::wstring& arguments)
     BedsideProgram program(arguments);
     SetForegroundWindow(program.window());
     program.waitUntil("the foreground", [&] { return GetForegroundWindow() == program.window(); });
+    // A window that was active before it was in the foreground keeps a grey title bar under Wine.
+    SendMessageW(program.window(), WM_NCACTIVATE, TRUE, 0);
     scene.play(program);
     program.waitUntil("the picture",
                       [&] { return EnumChildWindows(program.window(), isPainted, 0) != 0; });

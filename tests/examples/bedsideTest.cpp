@@ -54,6 +54,8 @@ TEST(Bedside, refusesWhatIsNoOrder)
         {ID_DOSE, L".", L"The dose cannot be read: '.' does not begin with a number"},
         {ID_DOSE, L"0", L"The dose cannot be read: '0 mcg/kg/min' is not more than nothing"},
         {ID_DOSE, L"\uFF15", L"The dose cannot be read: '\uFF15' does not begin with a number"},
+        {ID_DOSE, L"\U0001F489",
+         L"The dose cannot be read: '\U0001F489' does not begin with a number"},
         {ID_WEIGHT, L"70 kg", L"The weight cannot be read: '70 kg' is more than one number"},
         {ID_WEIGHT, L"7.0.0", L"The weight cannot be read: '7.0.0' is more than one number"},
         {ID_AMOUNT, L"1,000",
