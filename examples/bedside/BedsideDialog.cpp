@@ -237,9 +237,11 @@ void BedsideDialog::openLink(const NMHDR& notification) const
         (notification.code != NM_CLICK && notification.code != NM_RETURN))
         return;
     const auto& link = reinterpret_cast<const NMLINK&>(notification); // NOLINT: by its code
-    const auto target =
-        Native::Formatter::unescape(Native::Formatter::WideStringView(link.item.szUrl));
-    ShellExecuteW(window(), L"open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    const auto file =
+        L'"' + Native::Formatter::unescape(Native::Formatter::WideStringView(link.item.szUrl)) +
+        L'"';
+    // Not by the file's kind, which not every system knows how to open.
+    ShellExecuteW(window(), nullptr, L"notepad.exe", file.c_str(), nullptr, SW_SHOWNORMAL);
 }
 
 } // namespace Bedside

@@ -14,7 +14,6 @@ namespace
 
 using Infusions::FieldTexts;
 using Infusions::Grams;
-using Infusions::N_;
 using Infusions::Order;
 using Infusions::OrderError;
 using Infusions::tr;
@@ -54,17 +53,16 @@ void checkRate(const UnitValue& rate)
     const UnitValue fastest(1200, millilitrePerHour());
     if (rate.value >= slowest.value && rate.value <= fastest.value)
         return;
-    throw OrderError(GString::format(tr(N_("a pump cannot run at %s, only at %s to %s")),
+    throw OrderError(GString::format(tr("a pump cannot run at %s, only at %s to %s"),
                                      rate.toNormalizedString(significantDigits),
                                      slowest.ToString(1), fastest.ToString(0)));
 }
 
-/// The messages are written to stand behind a colon.
-GString sentence(const GString& message)
+/// The reasons are written to stand behind a colon.
+GString sentence(const GString& reason)
 {
-    const GString::View text = message;
-    return GString(text.substr(0, 1)).to_upper() +
-           GString(text.substr(std::min<std::size_t>(text.size(), 1)));
+    const GString::View text = reason;
+    return GString(text.substr(0, 1)).to_upper() + GString(text.substr(1));
 }
 
 } // namespace

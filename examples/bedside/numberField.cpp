@@ -40,7 +40,7 @@ std::string plainNumber(const GString& text)
     const GString number = trimmed(text);
     const GString::View view = number;
     if (view.find(u',') != GString::View::npos)
-        refuse("'%s' has a comma: write the decimal point as '.'", number);
+        refuse("'%s' has a comma; write the decimal point as '.'", number);
     const auto digits = std::count_if(view.begin(), view.end(), GString::is_digit);
     const auto points = std::count(view.begin(), view.end(), u'.');
     const bool begins = GString::is_digit(view.front()) || (view.front() == u'.' && digits > 0);

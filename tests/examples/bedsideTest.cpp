@@ -59,7 +59,7 @@ TEST(Bedside, refusesWhatIsNoOrder)
         {ID_WEIGHT, L"70 kg", L"The weight cannot be read: '70 kg' is more than one number"},
         {ID_WEIGHT, L"7.0.0", L"The weight cannot be read: '7.0.0' is more than one number"},
         {ID_AMOUNT, L"1,000",
-         L"The amount of drug in the bag cannot be read: '1,000' has a comma: "
+         L"The amount of drug in the bag cannot be read: '1,000' has a comma; "
          L"write the decimal point as '.'"},
         {ID_VOLUME, L"-250",
          L"The volume of the bag cannot be read: '-250' does not begin with a number"},
