@@ -63,6 +63,14 @@ void exchange(HWND shown, HWND hidden)
     Native::showControl(shown, false);
 }
 
+/// What a control's colour message is answered with.
+INT_PTR inColours(HDC dc, COLORREF text, int background)
+{
+    SetTextColor(dc, text);
+    SetBkColor(dc, GetSysColor(background));
+    return reinterpret_cast<INT_PTR>(GetSysColorBrush(background)); // NOLINT: a handle
+}
+
 } // namespace
 
 bool BedsideDialog::show()
@@ -143,6 +151,7 @@ void BedsideDialog::answer()
         return;
     const OrderAnswer answer = answerOrder(orderFields(window()));
     infusion_ = answer.infusion;
+    ranBefore_ = {};
     showText(window(), ID_RATE, answer.pumpRate);
     showText(window(), ID_ORDERED, answer.dose);
     showText(window(), ID_STRENGTH, answer.concentration);
@@ -169,20 +178,25 @@ void BedsideDialog::stop()
 {
     if (!started_)
         return;
-    showRunning();
+    ranBefore_ = ran();
     started_.reset();
+    showRunning();
     exchange(control(ID_STOP), control(ID_START));
     enableOrderControls(window(), true);
     showText(window(), ID_PUMP_GROUP, tr("Infusion pump: stopped"));
     InvalidateRect(control(ID_RATE), nullptr, TRUE); // in another colour
 }
 
+BedsideDialog::Clock::duration BedsideDialog::ran() const
+{
+    return started_ ? ranBefore_ + (Clock::now() - *started_) : ranBefore_;
+}
+
 void BedsideDialog::showRunning()
 {
     constexpr int decimals = 2;
-    const auto elapsed = Clock::now() - *started_;
-    showText(window(), ID_GIVEN, infusion_->givenAfter(elapsed).ToString(decimals));
-    showText(window(), ID_LASTS, infusion_->lastsAfter(elapsed));
+    showText(window(), ID_GIVEN, infusion_->givenAfter(ran()).ToString(decimals));
+    showText(window(), ID_LASTS, infusion_->lastsAfter(ran()));
 }
 
 void BedsideDialog::tick()
@@ -222,13 +236,14 @@ INT_PTR BedsideDialog::colour(HDC dc, HWND shown) const
     constexpr COLORREF errorRed = RGB(190, 20, 20);
     constexpr COLORREF stoppedBlue = RGB(12, 64, 120);
     constexpr COLORREF runningGreen = RGB(0, 112, 60);
-    const int number = GetDlgCtrlID(shown);
-    if (number != ID_ERROR && number != ID_RATE)
+    switch (GetDlgCtrlID(shown)) {
+    case ID_ERROR:
+        return inColours(dc, errorRed, COLOR_BTNFACE);
+    case ID_RATE:
+        return inColours(dc, started_ ? runningGreen : stoppedBlue, COLOR_WINDOW);
+    default:
         return FALSE;
-    const int background = number == ID_RATE ? COLOR_WINDOW : COLOR_BTNFACE;
-    SetTextColor(dc, number == ID_ERROR ? errorRed : started_ ? runningGreen : stoppedBlue);
-    SetBkColor(dc, GetSysColor(background));
-    return reinterpret_cast<INT_PTR>(GetSysColorBrush(background)); // NOLINT: a handle
+    }
 }
 
 void BedsideDialog::openLink(const NMHDR& notification) const

@@ -35,6 +35,7 @@ private:
     void answer();
     void start();
     void stop();
+    Clock::duration ran() const;
     void showRunning();
     void showPanel();
     void openLink(const NMHDR& notification) const;
@@ -44,6 +45,7 @@ private:
     std::optional<Timer> timer_;
     std::optional<Infusion> infusion_; ///< that can be started, or runs
     std::optional<Clock::time_point> started_;
+    Clock::duration ranBefore_ = {}; ///< the same order, before it was stopped
 };
 
 } // namespace Bedside

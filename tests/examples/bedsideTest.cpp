@@ -111,6 +111,13 @@ TEST(Bedside, startsAndStops)
     EXPECT_EQ(program.focus(), ID_START);
     EXPECT_TRUE(program.isEnabled(ID_DOSE));
     EXPECT_TRUE(program.isEnabled(ID_WEIGHT));
+
+    const std::wstring given = program.text(ID_GIVEN);
+    program.press(ID_START); // what was given stays given
+    EXPECT_GE(program.text(ID_GIVEN), given);
+    program.press(ID_STOP);
+    program.type(ID_DOSE, L"4"); // another order
+    EXPECT_EQ(program.text(ID_GIVEN), noResult);
     EXPECT_EQ(program.close(), 0u);
 }
 
