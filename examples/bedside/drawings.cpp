@@ -53,7 +53,7 @@ void drawLabel(HDC dc, const GString& text, RECT area, UINT format)
     DrawTextW(dc, text.to_w_str(), -1, &area, format | DT_NOPREFIX);
 }
 
-/// Ticks are 3 pixels wide, because thinner rectangles are not drawn.
+/// No thinner, because such rectangles are not drawn; they come out a pixel wider than asked for.
 void drawTick(HDC dc, int x, int top, int length)
 {
     Native::drawSolidRect(dc, x - 1, top, x + 2, top + length, ink);

@@ -1,14 +1,15 @@
 // The example as its user meets it: its own process, driven through its window.
 
-#include "BedsideProgram.h"
-
-#include "examples/bedside/controls.h"
+#include "bedside/controls.h"
+#include "bedside/driver/BedsideProgram.h"
 
 #include <tuple>
 
 #include <gtest/gtest.h>
 
-namespace BedsideTest
+namespace BedsideDriver
+{
+namespace
 {
 
 using Refusal = std::tuple<int, std::wstring, std::wstring>;
@@ -25,18 +26,13 @@ void expectRefusal(const BedsideProgram& program, const std::wstring& error)
     EXPECT_FALSE(program.isEnabled(ID_START));
 }
 
-TEST(Bedside, calculatesTheTextbooksOrder)
+TEST(Bedside, CalculatesTheTextbooksOrder)
 {
     BedsideProgram program;
     program.choose(ID_DRUG, L"Heparin"); // its numbers are entered as well
     EXPECT_EQ(program.text(ID_RATE), L"12.6 mL/hr");
-    program.choose(ID_DRUG, L"Dopamine");
-    program.choose(ID_DOSE_UNIT, L"mcg/kg/min");
+    program.choose(ID_DRUG, L"Dopamine"); // 5 mcg/kg/min for 70 kg out of 400 mg in 250 mL
     program.type(ID_DOSE, L" 5 ");
-    program.type(ID_WEIGHT, L"70");
-    program.type(ID_AMOUNT, L"400");
-    program.choose(ID_AMOUNT_UNIT, L"mg");
-    program.type(ID_VOLUME, L"250");
     EXPECT_EQ(program.text(ID_RATE), L"13.1 mL/hr");
     EXPECT_EQ(program.text(ID_ORDERED), L"5.00 mcg/kg/min");
     EXPECT_EQ(program.text(ID_STRENGTH), L"1.60 mg/mL");
@@ -46,18 +42,14 @@ TEST(Bedside, calculatesTheTextbooksOrder)
     EXPECT_EQ(program.close(), 0u);
 }
 
-TEST(Bedside, refusesWhatIsNoOrder)
+TEST(Bedside, RefusesWhatIsNoOrder)
 {
     const Refusal cases[] = {
         {ID_DOSE, L"five", L"The dose cannot be read: 'five' does not begin with a number"},
         {ID_DOSE, L"", L"The dose is missing"},
-        {ID_DOSE, L".", L"The dose cannot be read: '.' does not begin with a number"},
         {ID_DOSE, L"0", L"The dose cannot be read: '0 mcg/kg/min' is not more than nothing"},
         {ID_DOSE, L"\uFF15", L"The dose cannot be read: '\uFF15' does not begin with a number"},
-        {ID_DOSE, L"\U0001F489",
-         L"The dose cannot be read: '\U0001F489' does not begin with a number"},
         {ID_WEIGHT, L"70 kg", L"The weight cannot be read: '70 kg' is more than one number"},
-        {ID_WEIGHT, L"7.0.0", L"The weight cannot be read: '7.0.0' is more than one number"},
         {ID_AMOUNT, L"1,000",
          L"The amount of drug in the bag cannot be read: '1,000' has a comma; "
          L"write the decimal point as '.'"},
@@ -80,7 +72,7 @@ TEST(Bedside, refusesWhatIsNoOrder)
     EXPECT_EQ(program.close(), 0u);
 }
 
-TEST(Bedside, asksForTheWeightWhereTheDoseNeedsIt)
+TEST(Bedside, AsksForTheWeightWhereTheDoseNeedsIt)
 {
     BedsideProgram program;
     program.type(ID_WEIGHT, L"unknown");
@@ -94,7 +86,7 @@ TEST(Bedside, asksForTheWeightWhereTheDoseNeedsIt)
     EXPECT_FALSE(program.isEnabled(ID_START));
 }
 
-TEST(Bedside, startsAndStops)
+TEST(Bedside, StartsAndStops)
 {
     BedsideProgram program;
     program.press(ID_START);
@@ -121,16 +113,5 @@ TEST(Bedside, startsAndStops)
     EXPECT_EQ(program.close(), 0u);
 }
 
-TEST(Bedside, showsThePanelsValues)
-{
-    BedsideProgram program;
-    program.choose(ID_PANEL, L"Electrolytes");
-    EXPECT_EQ(program.text(ID_LAB_NAMES + 1), L"Potassium");
-    EXPECT_EQ(program.text(ID_LAB_VALUES + 1), L"4.1 mmol/L");
-    EXPECT_TRUE(program.isVisible(ID_LAB_VALUES + 3));
-    EXPECT_FALSE(program.isVisible(ID_LAB_VALUES + 4));
-    program.choose(ID_PANEL, L"None");
-    EXPECT_FALSE(program.isVisible(ID_LAB_NAMES));
-}
-
-} // namespace BedsideTest
+} // namespace
+} // namespace BedsideDriver

@@ -15,21 +15,16 @@ namespace
 {
 
 /// A width in the table while this object lives.
-class TableEntry
-{
-public:
-    TableEntry(const std::string& identifier, std::uint32_t mm) : name_(identifier)
+struct TableEntry {
+    TableEntry(const std::string& identifier, std::uint32_t mm) : name(identifier)
     {
-        table_.open(HKEY_LOCAL_MACHINE, monitorWidthTable, OpenMode::AllAccess | OpenMode::Create);
-        EXPECT_TRUE(table_.writeDword(name_, mm));
+        table.open(HKEY_LOCAL_MACHINE, monitorWidthTable, OpenMode::AllAccess | OpenMode::Create);
+        EXPECT_TRUE(table.writeDword(name, mm));
     }
-    TableEntry(const TableEntry&) = delete;
-    TableEntry& operator=(const TableEntry&) = delete;
-    ~TableEntry() { table_.deleteValue(name_); }
+    ~TableEntry() { table.deleteValue(name); }
 
-private:
-    std::string name_;
-    RegistryKey table_;
+    std::string name;
+    RegistryKey table;
 };
 
 const auto left = reinterpret_cast<HMONITOR>(1);

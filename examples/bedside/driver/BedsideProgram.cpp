@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-namespace BedsideTest
+namespace BedsideDriver
 {
 namespace
 {
@@ -145,4 +145,4 @@ DWORD_PTR BedsideProgram::send(HWND receiver, UINT message, WPARAM wParam, LPARA
     return result;
 }
 
-} // namespace BedsideTest
+} // namespace BedsideDriver

@@ -4,7 +4,7 @@
 
 #include "BedsideProgram.h"
 
-#include "examples/bedside/controls.h"
+#include "bedside/controls.h"
 
 #include <exception>
 #include <iostream>
@@ -14,7 +14,7 @@
 namespace
 {
 
-using BedsideTest::BedsideProgram;
+using BedsideDriver::BedsideProgram;
 
 void playRunning(const BedsideProgram& program)
 {

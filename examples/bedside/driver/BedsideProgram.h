@@ -7,7 +7,7 @@
 
 #include <windows.h>
 
-namespace BedsideTest
+namespace BedsideDriver
 {
 
 /// The running example, driven through its window as another program can: its controls are named by
@@ -48,4 +48,4 @@ private:
     HWND window_ = nullptr;
 };
 
-} // namespace BedsideTest
+} // namespace BedsideDriver
