@@ -53,6 +53,16 @@ GString faceOf(HWND control)
     return look.lfFaceName;
 }
 
+/// In which the system's narrow functions write dates and times.
+UINT codePageOfRegion()
+{
+    DWORD codePage = 0;
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
+                   reinterpret_cast<wchar_t*>(&codePage), // NOLINT: the flag makes it a number
+                   sizeof codePage / sizeof(wchar_t));
+    return codePage;
+}
+
 /// Puts one button into the place of another in sight, tab order and focus.
 void exchange(HWND shown, HWND hidden)
 {
@@ -201,8 +211,8 @@ void BedsideDialog::showRunning()
 
 void BedsideDialog::tick()
 {
-    showText(window(), ID_CLOCK,
-             GString(Native::currentDateText(true) + "  " + Native::currentTimeText(true)));
+    const std::string now = Native::currentDateText(true) + "  " + Native::currentTimeText(true);
+    showText(window(), ID_CLOCK, GString(now, codePageOfRegion()));
     if (started_)
         showRunning();
 }

@@ -9,7 +9,7 @@ namespace Workstation
 {
 
 /// The width of a monitor in the table, entered for as long as this object lives where the table
-/// had none. The table itself is taken away again, too, when it was not there.
+/// has no entry for it. The table is taken away again, too, when it was not there and is empty.
 class MonitorWidth
 {
 public:
@@ -25,6 +25,7 @@ public:
 
 private:
     std::string monitor_;
+    bool hadMaker_;
     bool hadTable_;
     bool entered_ = false;
     std::uint32_t mm_;

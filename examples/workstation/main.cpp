@@ -33,7 +33,7 @@ std::string systemDescription(const std::string& logPath)
 
 bool settingComesBack()
 {
-    const std::string value = "70 kg, caf\xE9 au lait";
+    const std::string value = "Anna Berg, 70 kg";
     const bool written = regiWrite(HKEY_CURRENT_USER, settings, "Patient", value, true);
     const std::string read = regiRead(HKEY_CURRENT_USER, settings, "Patient", "", true);
     const bool removed = regiDelete(HKEY_CURRENT_USER, settings, "Patient", true) &&
@@ -51,15 +51,20 @@ void describeMonitor()
     std::cout << "Work area:      " << area.right - area.left << " x " << area.bottom - area.top
               << " pixels from (" << area.left << ", " << area.top << ")\n";
 
-    constexpr std::uint32_t usualMm = 520;
     const std::string monitor = getMonitorIdentifier(nullptr);
+    if (monitor.empty()) {
+        std::cout << "Monitor:        the system does not tell\n";
+        return;
+    }
+    constexpr std::uint32_t usualMm = 520;
     const Workstation::MonitorWidth width(monitor, usualMm);
     std::cout << "Monitor:        " << monitor << '\n';
     if (!width.error().empty())
         std::cout << "Its width:      not entered: " << width.error() << '\n';
     else
-        std::cout << "Its width:      " << width.mm() << " mm in the table, "
-                  << getMonitorPixelsPerCm(nullptr) << " pixels per centimetre\n";
+        std::cout << "Its width:      " << static_cast<std::int32_t>(width.mm())
+                  << " mm in the table, " << getMonitorPixelsPerCm(nullptr)
+                  << " pixels per centimetre\n";
 }
 
 } // namespace

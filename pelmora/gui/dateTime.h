@@ -4,8 +4,9 @@
 
 #include <string>
 
-// The date and time on the user's clock as the user's region writes them, in the ANSI code page;
-// empty when the system fails. May run in several threads at once.
+// The date and time on the user's clock as the user's region writes them; empty when the system
+// fails. In the code page of that region (LOCALE_IDEFAULTANSICODEPAGE), which is not always the
+// ANSI code page. May run in several threads at once.
 
 namespace Pelmora::Native
 {

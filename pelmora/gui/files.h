@@ -17,9 +17,9 @@ namespace Pelmora::Native
 PELMORA_API bool pathExists(const std::string& path);
 PELMORA_API bool pathExists(const GString& path);
 
-/// Takes the read-only attribute from a file, so that it can be written; all others stay. Nothing
-/// happens where it is not set or nothing is there. Otherwise one line in the error log says
-/// whether it was removed; on purpose it says "Could not remove" also of a success when
+/// Takes the read-only attribute from a file or folder, so that it can be written; all others stay.
+/// Nothing happens where it is not set or nothing is there. Otherwise one line in the error log
+/// says whether it was removed; on purpose it says "Could not remove" also of a success when
 /// `logSuccess` is false.
 PELMORA_API void removeReadOnly(const std::string& path, bool logSuccess);
 PELMORA_API void removeReadOnly(const GString& path, bool logSuccess);

@@ -7,63 +7,43 @@ namespace Pelmora::Native
 namespace
 {
 
-constexpr const char* onlyDevice = "DISPLAY";
+constexpr const char* singleDevice = "DISPLAY";
 
 /// Stands for the one monitor; never dereferenced.
-HMONITOR onlyMonitor()
+HMONITOR singleMonitor()
 {
     static int monitor;
     return reinterpret_cast<HMONITOR>(&monitor); // NOLINT: a handle is an opaque pointer
 }
 
-RECT onlyMonitorArea()
+// The library asks for the nearest or the primary monitor, which this one always is.
+HMONITOR WINAPI singleFromWindow(HWND, DWORD)
 {
-    return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    return singleMonitor();
 }
 
-bool isOn(const RECT& area, const RECT& monitor)
+HMONITOR WINAPI singleFromPoint(POINT, DWORD)
 {
-    RECT common = {};
-    return IntersectRect(&common, &area, &monitor) != 0;
+    return singleMonitor();
 }
 
-HMONITOR onlyOr(bool shown, DWORD otherwise)
+BOOL WINAPI singleInformation(HMONITOR monitor, MONITORINFO* information)
 {
-    const bool asked =
-        otherwise == MONITOR_DEFAULTTOPRIMARY || otherwise == MONITOR_DEFAULTTONEAREST;
-    return shown || asked ? onlyMonitor() : nullptr;
-}
-
-HMONITOR WINAPI onlyFromWindow(HWND window, DWORD otherwise)
-{
-    RECT area = {};
-    const bool known = GetWindowRect(window, &area) != 0;
-    return onlyOr(known && isOn(area, onlyMonitorArea()), otherwise);
-}
-
-HMONITOR WINAPI onlyFromPoint(POINT point, DWORD otherwise)
-{
-    const RECT monitor = onlyMonitorArea();
-    return onlyOr(PtInRect(&monitor, point) != 0, otherwise);
-}
-
-BOOL WINAPI onlyInformation(HMONITOR monitor, MONITORINFO* information)
-{
-    if (monitor != onlyMonitor())
+    if (monitor != singleMonitor())
         return FALSE;
-    information->rcMonitor = onlyMonitorArea();
+    information->rcMonitor = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     information->dwFlags = MONITORINFOF_PRIMARY;
     if (information->cbSize >= sizeof(MONITORINFOEXA))
         std::strcpy(reinterpret_cast<MONITORINFOEXA*>(information)->szDevice, // NOLINT: by its size
-                    onlyDevice);
+                    singleDevice);
     return SystemParametersInfoA(SPI_GETWORKAREA, 0, &information->rcWork, 0);
 }
 
-BOOL WINAPI onlyDevices(const char* adapter, DWORD index, DISPLAY_DEVICEA* device, DWORD)
+BOOL WINAPI singleDevices(const char* adapter, DWORD index, DISPLAY_DEVICEA* device, DWORD)
 {
     if (adapter != nullptr || index != 0)
         return FALSE;
-    std::strcpy(device->DeviceName, onlyDevice);
+    std::strcpy(device->DeviceName, singleDevice);
     device->StateFlags = DISPLAY_DEVICE_ATTACHED_TO_DESKTOP | DISPLAY_DEVICE_PRIMARY_DEVICE;
     return TRUE;
 }
@@ -87,7 +67,7 @@ MonitorFunctions lookUpMonitorFunctions(HMODULE module)
         find(module, "GetMonitorInfoA", found.information) &&
         find(module, "EnumDisplayDevicesA", found.enumerateDevices))
         return found;
-    return {onlyFromWindow, onlyFromPoint, onlyInformation, onlyDevices};
+    return {singleFromWindow, singleFromPoint, singleInformation, singleDevices};
 }
 
 const MonitorFunctions& monitorFunctions()

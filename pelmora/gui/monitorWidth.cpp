@@ -8,21 +8,37 @@ namespace Pelmora::Native
 namespace
 {
 
-constexpr char inTwoBytes = '\xFF';
-constexpr char secondOfTwo = '\xFE';
+/// Bytes of the text's first character.
+std::size_t characterLength(std::string_view text, IsLeadByte isLeadByte)
+{
+    return text.size() > 1 && isLeadByte(static_cast<unsigned char>(text[0])) ? 2 : 1;
+}
 
-/// The text with other bytes for characters of two bytes, whose second one may look like a
-/// backslash or a letter.
+/// The text with another byte in place of those of two-byte characters, the second of which may
+/// look like a backslash or a letter.
 std::string withoutDoubleBytes(std::string_view text, IsLeadByte isLeadByte)
 {
     std::string masked(text);
-    for (std::size_t i = 0; i + 1 < masked.size(); ++i) {
-        if (isLeadByte(static_cast<unsigned char>(masked[i]))) {
-            masked[i] = inTwoBytes;
-            masked[++i] = secondOfTwo;
-        }
+    for (std::size_t i = 0; i < masked.size();) {
+        const std::size_t length = characterLength(text.substr(i), isLeadByte);
+        if (length > 1)
+            masked.replace(i, length, length, '\xFF');
+        i += length;
     }
     return masked;
+}
+
+/// The characters that fit in so many bytes.
+std::string_view cut(std::string_view text, std::size_t most, IsLeadByte isLeadByte)
+{
+    std::size_t kept = 0;
+    while (kept < text.size()) {
+        const std::size_t length = characterLength(text.substr(kept), isLeadByte);
+        if (kept + length > most)
+            break;
+        kept += length;
+    }
+    return text.substr(0, kept);
 }
 
 } // namespace
@@ -45,19 +61,16 @@ std::optional<std::string> monitorIdentifier(std::string_view deviceId, IsLeadBy
         const std::size_t end = masked.rfind(closing);
         if (end < start)
             return std::nullopt;
-        std::size_t length = std::min(end - start, longest);
-        if (masked[start + length] == secondOfTwo)
-            --length;
-        return std::string(deviceId.substr(start, length));
+        return std::string(cut(deviceId.substr(start, end - start), longest, isLeadByte));
     }
     return std::nullopt;
 }
 
-int pixelsPerCm(std::int64_t widthInPixels, std::uint32_t widthInMm)
+std::optional<int> pixelsPerCm(std::int64_t widthInPixels, std::uint32_t widthInMm)
 {
     const auto mm = static_cast<std::int32_t>(widthInMm);
     if (mm <= 0)
-        return 0;
+        return std::nullopt;
     constexpr double most = std::numeric_limits<int>::max();
     const double rounded = static_cast<double>(widthInPixels) * 10.0 / mm + 0.5;
     return static_cast<int>(std::clamp(rounded, -most, most));

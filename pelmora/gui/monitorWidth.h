@@ -21,8 +21,8 @@ using IsLeadByte = bool (*)(unsigned char);
 /// last backslash; at most 127 bytes. None when the string has neither form or does not close it.
 std::optional<std::string> monitorIdentifier(std::string_view deviceId, IsLeadByte isLeadByte);
 
-/// Pixels per centimetre, rounded half up, of a monitor so many pixels and millimetres wide; 0 when
-/// the millimetres, read as a signed number, are not more than 0.
-int pixelsPerCm(std::int64_t widthInPixels, std::uint32_t widthInMm);
+/// Pixels per centimetre, rounded half up, of a monitor so many pixels and millimetres wide; none
+/// when the millimetres, read as a signed number, are not more than 0.
+std::optional<int> pixelsPerCm(std::int64_t widthInPixels, std::uint32_t widthInMm);
 
 } // namespace Pelmora::Native

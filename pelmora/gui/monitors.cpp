@@ -65,7 +65,7 @@ void forEachIdentifier(const MonitorFunctions& system, const MONITORINFOEXA& mon
             continue;
         DISPLAY_DEVICEA device = {};
         device.cb = sizeof device;
-        if (system.enumerateDevices(adapter.DeviceName, 0, &device,
+        if (system.enumerateDevices(std::string(textOf(adapter.DeviceName)).c_str(), 0, &device,
                                     EDD_GET_DEVICE_INTERFACE_NAME) == 0)
             continue;
         // One that cannot be told apart ends the search, on purpose.
@@ -113,13 +113,12 @@ int monitorPixelsPerCm(const MonitorFunctions& system, HWND window)
         return 0;
     const std::int64_t widthInPixels =
         std::int64_t(monitor.rcMonitor.right) - monitor.rcMonitor.left;
-    int result = 0;
+    std::optional<int> result;
     forEachIdentifier(system, monitor, [&](const std::string& identifier) {
-        const std::uint32_t mm = widthInMm(identifier);
-        result = pixelsPerCm(widthInPixels, mm);
-        return static_cast<std::int32_t>(mm) > 0;
+        result = pixelsPerCm(widthInPixels, widthInMm(identifier));
+        return result.has_value();
     });
-    return result;
+    return result.value_or(0);
 }
 
 std::string identifierOfMonitor(const MonitorFunctions& system, HWND window)

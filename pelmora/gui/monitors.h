@@ -7,8 +7,9 @@
 #include <windows.h>
 
 // Which part of the screen a window may use, and how large it really is. Rectangles are in screen
-// pixels, right and bottom exclusive; a second monitor may have negative coordinates. May run in
-// several threads at once.
+// pixels, right and bottom exclusive; a second monitor may have negative coordinates. Pixels are
+// those that the system shows to the process: true ones only in a process that declares itself
+// aware of the monitors' scaling. May run in several threads at once.
 
 namespace Pelmora::Native
 {
@@ -24,13 +25,15 @@ PELMORA_API void getWorkAreaAtPoint(RECT& area, int x, int y);
 /// Pixels per centimetre, rounded, across the monitor that shows most of the window, the primary
 /// one when none does. 0 when its physical width is unknown.
 ///
-/// The widths stand in the registry, "SOFTWARE\Tavelin\MonitorWidthsMM" below HKEY_LOCAL_MACHINE: a
-/// REG_DWORD for each monitor model, named as `getMonitorIdentifier` gives it, in whole
-/// millimetres of visible screen. The library makes the key where the user may, and never an entry.
+/// The widths stand in the registry, "SOFTWARE\Tavelin\MonitorWidthsMM" below HKEY_LOCAL_MACHINE
+/// as 64-bit programs see it: a REG_DWORD for each monitor, named as `getMonitorIdentifier` gives
+/// it, in whole millimetres of visible screen. The library makes the key where the user may, and
+/// never an entry.
 PELMORA_API int getMonitorPixelsPerCm(HWND window);
 
-/// The name that the table has, or would have, for the model of the window's monitor, in the ANSI
-/// code page: "ABC1234#5&1a2b3c&0&UID256". Empty when the system does not tell it.
+/// The name that the table has, or would have, for the window's monitor, in the ANSI code page:
+/// "ABC1234#5&1a2b3c&0&UID256", the model and the place where it is connected. Empty when the
+/// system does not tell it.
 PELMORA_API std::string getMonitorIdentifier(HWND window);
 
 } // namespace Pelmora::Native

@@ -100,7 +100,7 @@ bool RegistryKey::attempt(HKEY root, const std::string& path, OpenMode mode)
             ? RegCreateKeyExA(root, path.c_str(), 0, noClass.data(), REG_OPTION_NON_VOLATILE,
                               accessOf(mode), nullptr, &opened, nullptr)
             : RegOpenKeyExA(root, path.c_str(), 0, accessOf(mode), &opened);
-    if (!settle(status))
+    if (!succeeded(status))
         return false;
     record_->handle.reset(opened);
     return true;
@@ -112,7 +112,7 @@ bool RegistryKey::openMachineOrUser(const std::string& path, OpenMode mode)
 }
 
 /// Whether the call succeeded; keeps the text of its failure.
-bool RegistryKey::settle(long status) const
+bool RegistryKey::succeeded(long status) const
 {
     record_->lastError = status == ERROR_SUCCESS
                              ? std::string()
@@ -126,23 +126,31 @@ RegistryKey::Bytes RegistryKey::queryRaw(const std::string& name, unsigned long 
         record_->lastError = keyNotOpened;
         return {};
     }
-    const HKEY key = record_->handle.get();
-    DWORD type = 0;
     DWORD size = 0;
-    if (!settle(RegQueryValueExA(key, name.c_str(), nullptr, &type, nullptr, &size)))
+    if (!queryValue(name, expectedType, nullptr, size))
         return {};
-    if (type != expectedType) {
-        // The "<< " and the missing blank are meant: callers know the text.
-        record_->lastError = "The value: '" + name + "' has type: << " + std::to_string(type) +
-                             ", type expected:" + std::to_string(expectedType);
-        return {};
-    }
     Bytes value = {std::make_unique<std::byte[]>(size), size};
-    auto* const room = reinterpret_cast<BYTE*>(value.data.get()); // NOLINT: the system's own type
-    if (!settle(RegQueryValueExA(key, name.c_str(), nullptr, nullptr, room, &size)))
+    if (!queryValue(name, expectedType, value.data.get(), size))
         return {};
     value.size = std::min<std::size_t>(value.size, size); // it may have shrunk meanwhile
     return value;
+}
+
+/// One call of the system's, to which another program's writing may come between.
+bool RegistryKey::queryValue(const std::string& name, unsigned long expectedType, std::byte* room,
+                             unsigned long& size) const
+{
+    DWORD type = 0;
+    if (!succeeded(RegQueryValueExA(record_->handle.get(), name.c_str(), nullptr, &type,
+                                    reinterpret_cast<BYTE*>(room), // NOLINT: the system's own type
+                                    &size)))
+        return false;
+    if (type == expectedType)
+        return true;
+    // The "<< " and the missing blank are meant: callers know the text.
+    record_->lastError = "The value: '" + name + "' has type: << " + std::to_string(type) +
+                         ", type expected:" + std::to_string(expectedType);
+    return false;
 }
 
 std::string RegistryKey::readString(const std::string& name, const std::string& fallback) const
@@ -207,9 +215,9 @@ bool RegistryKey::write(const std::string& name, unsigned long type, const void*
         return false;
     }
     if (size > std::numeric_limits<DWORD>::max())
-        return settle(ERROR_INVALID_PARAMETER);
-    return settle(RegSetValueExA(record_->handle.get(), name.c_str(), 0, type, asBytes(data),
-                                 static_cast<DWORD>(size)));
+        return succeeded(ERROR_INVALID_PARAMETER);
+    return succeeded(RegSetValueExA(record_->handle.get(), name.c_str(), 0, type, asBytes(data),
+                                    static_cast<DWORD>(size)));
 }
 
 bool RegistryKey::writeString(const std::string& name, const std::string& value)
@@ -292,7 +300,7 @@ ValueNameIterator ValueNameIterator::operator++(int)
     return before;
 }
 
-std::string ValueNameIterator::name() const
+std::string ValueNameIterator::operator*() const
 {
     if (name_.empty()) {
         std::array<char, 256> buffer = {};

@@ -33,16 +33,19 @@ constexpr OpenMode operator|(OpenMode a, OpenMode b) noexcept
 class PELMORA_API ValueNameIterator
 {
 public:
+    using value_type = std::string;
+    using difference_type = std::ptrdiff_t;
+
     ValueNameIterator(HKEY key, std::uint32_t index) noexcept : key_(key), index_(index) {}
 
     ValueNameIterator& operator++() noexcept;
     ValueNameIterator operator++(int);
 
-    /// The value's name, at most 255 bytes: a longer one cannot be had, and is "" or its beginning,
-    /// as the system leaves it. Asked of the system once, then kept. "" past the last value.
-    std::string operator*() const { return name(); }
-    std::string name() const;
-    GString wideName() const { return GString(name()); }
+    /// The value's name in the ANSI code page, which names with other characters cannot be found
+    /// by. At most 255 bytes: a longer one cannot be had, and is "" or its beginning, as the system
+    /// leaves it. Asked of the system when first needed, then kept. "" past the last value.
+    std::string operator*() const;
+    GString wideName() const { return GString(**this); }
 
     /// Whether both stand at the same value.
     friend bool operator==(const ValueNameIterator& a, const ValueNameIterator& b) noexcept
@@ -65,7 +68,8 @@ private:
 ///
 /// Paths, names and string values cross to the system in the ANSI code page, up to their first NUL
 /// for paths and names; each operation that takes one has a narrow and a wide form. A path is that
-/// below the root, "SOFTWARE\\Maker\\Program". An empty name is the key's default value.
+/// below the root, "SOFTWARE\\Maker\\Program". An empty name is the key's default value. The
+/// defaults of wide `readString` cross over and back as well, up to their first NUL.
 ///
 /// An object is used by one thread at a time. It can be moved and not copied: a handle has one
 /// owner. What was moved from is a key that is not open, as a new one.
@@ -136,6 +140,7 @@ public:
     {
         return writeDword(name.to_narrow(), value);
     }
+    /// Requires: `bytes` are as many as `size`; 4 GiB and more are refused.
     bool writeBinary(const std::string& name, const void* bytes, std::size_t size);
     bool writeBinary(const GString& name, const void* bytes, std::size_t size)
     {
@@ -156,7 +161,8 @@ public:
     bool deleteValue(const std::string& name);
     bool deleteValue(const GString& name) { return deleteValue(name.to_narrow()); }
 
-    /// Waits until the key is on the disk; the status of RegFlushKey, 0 on success.
+    /// Waits until the key is on the disk; the status of RegFlushKey, 0 on success, not 0 also when
+    /// no key is open. `lastError` stays as it is.
     long flush();
 
     /// What `open`, the readers and the writers last met: empty after a success, "key not opened"
@@ -165,14 +171,17 @@ public:
     std::string lastError() const;
 
     ValueNameIterator valueNamesBegin() const;
-    /// Past the last value that the key has now.
+    /// Past the last value that the key has now; the same as the first without a key, and when the
+    /// system does not tell their number.
     ValueNameIterator valueNamesEnd() const;
 
 private:
     struct Bytes;
 
     bool attempt(HKEY root, const std::string& path, OpenMode mode);
-    bool settle(long status) const;
+    bool succeeded(long status) const;
+    bool queryValue(const std::string& name, unsigned long expectedType, std::byte* room,
+                    unsigned long& size) const;
     Bytes queryRaw(const std::string& name, unsigned long expectedType) const;
     bool write(const std::string& name, unsigned long type, const void* data, std::size_t size);
 

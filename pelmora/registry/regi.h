@@ -3,6 +3,7 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "pelmora/platform/export.h"
 
+#include <concepts>
 #include <string>
 
 #include <windows.h>
@@ -16,7 +17,8 @@
 namespace Pelmora::Native
 {
 
-/// The string value, or `fallback` when it cannot be had; never makes a key.
+/// The string value, or `fallback` when it cannot be had, which in the wide form crosses to the
+/// ANSI code page and back; never makes a key.
 PELMORA_API std::string regiRead(HKEY root, const std::string& path, const std::string& name,
                                  const std::string& fallback, bool log = false);
 PELMORA_API GString regiRead(HKEY root, const GString& path, const GString& name,
@@ -37,5 +39,9 @@ PELMORA_API bool regiDelete(HKEY root, const GString& path, const GString& name,
 /// Whether the key was deleted with its values; one that has subkeys is not.
 PELMORA_API bool regiDeleteKey(HKEY root, const std::string& path, bool log = false);
 PELMORA_API bool regiDeleteKey(HKEY root, const GString& path, bool log = false);
+
+/// A text in place of `log` is one text too many, and would delete more than was meant.
+template <class Path, class Log>
+requires(!std::same_as<Log, bool>) bool regiDeleteKey(HKEY, const Path&, Log) = delete;
 
 } // namespace Pelmora::Native

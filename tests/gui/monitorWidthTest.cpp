@@ -36,6 +36,7 @@ TEST(MonitorWidth, IdentifierOfADevice)
         {"", none, std::nullopt},
         {"#" + m126 + "nn#", none, m126 + "n"},
         {"#" + m126 + "\x95\x5C#", japanese, m126},
+        {"#" + m126 + "n\xFE#", none, m126 + "n"},
         {"Monitor\\A\\\x95\x5C", japanese, "A"},
         {"Monito\x83r\\A\\Monitor\\B\\C", japanese, "B"},
         {"#A\x8E#", japanese, std::nullopt},
@@ -47,9 +48,15 @@ TEST(MonitorWidth, IdentifierOfADevice)
 TEST(MonitorWidth, PixelsPerCentimetre)
 {
     constexpr int most = std::numeric_limits<int>::max();
-    const std::tuple<std::int64_t, std::uint32_t, int> rows[] = {
-        {1920, 520, 37},       {75, 300, 3},    {74, 300, 2}, {1920, 0, 0},
-        {1920, 0xFFFFFFFF, 0}, {1920, most, 0}, {0, 520, 0},  {most, 1, most},
+    const std::tuple<std::int64_t, std::uint32_t, std::optional<int>> rows[] = {
+        {1920, 520, 37},
+        {75, 300, 3},
+        {74, 300, 2},
+        {1920, 0, std::nullopt},
+        {1920, 0xFFFFFFFF, std::nullopt},
+        {1920, most, 0},
+        {0, 520, 0},
+        {most, 1, most},
     };
     for (const auto& [pixels, mm, result] : rows)
         EXPECT_EQ(pixelsPerCm(pixels, mm), result) << pixels << ' ' << mm;

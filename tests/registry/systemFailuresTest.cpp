@@ -2,6 +2,8 @@
 
 #include "pelmora/registry/RegistryKey.h"
 
+#include "pelmora/registry/systemErrorText.h"
+
 #include <cstdio>
 #include <tuple>
 #include <utility>
@@ -43,12 +45,22 @@ LSTATUS WINAPI closeKey(HKEY)
     return ERROR_SUCCESS;
 }
 
+/// A value that grows, or becomes another, when it is read.
+LSTATUS WINAPI queryValue(HKEY, const char* name, DWORD*, DWORD* type, BYTE* data, DWORD* size)
+{
+    const bool grows = *name == 'g';
+    *type = data == nullptr || grows ? REG_SZ : REG_DWORD;
+    *size = 4;
+    return data != nullptr && grows ? ERROR_MORE_DATA : ERROR_SUCCESS;
+}
+
 } // namespace
 
 extern "C" {
 void* __imp_RegOpenKeyExA = reinterpret_cast<void*>(openKey);
 void* __imp_RegCreateKeyExA = reinterpret_cast<void*>(createKey);
 void* __imp_RegCloseKey = reinterpret_cast<void*>(closeKey);
+void* __imp_RegQueryValueExA = reinterpret_cast<void*>(queryValue);
 }
 
 namespace Pelmora::Native
@@ -78,13 +90,17 @@ TEST(RegistryFailures, ModesAskForTheirAccess)
     deniesWriting = false;
 }
 
-TEST(RegistryFailures, AHandleIsClosedOnce)
+TEST(RegistryFailures, AHandleIsClosedOnceAndAChangingValueIsNotRead)
 {
     closed = 0;
     {
         RegistryKey first;
         first.open(HKEY_CURRENT_USER, "path", OpenMode::Read);
         RegistryKey second(std::move(first));
+        EXPECT_EQ(second.readString("grows", "default"), "default");
+        EXPECT_EQ(second.lastError(), systemErrorText(ERROR_MORE_DATA));
+        EXPECT_EQ(second.readString("changes", "default"), "default");
+        EXPECT_EQ(second.lastError(), "The value: 'changes' has type: << 4, type expected:1");
         first.open(HKEY_CURRENT_USER, "path", OpenMode::Read); // NOLINT: as a new one
         first = std::move(second);
         EXPECT_EQ(closed, 1);
