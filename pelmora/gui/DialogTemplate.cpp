@@ -44,8 +44,9 @@ void DialogTemplate::assign(std::span<const std::byte> bytes)
     // No template is larger than its size can say, nor than a few hundred kilobytes.
     constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
     bytes = bytes.first(std::min(bytes.size(), most));
-    buffer_.assign(bytes.begin(), bytes.end());
-    buffer_.resize(bytes.size() + spareBytes);
+    std::vector<std::byte> buffer(bytes.size() + spareBytes);
+    std::copy(bytes.begin(), bytes.end(), buffer.begin());
+    buffer_ = std::move(buffer);
     size_ = static_cast<std::int32_t>(bytes.size());
 }
 
@@ -111,16 +112,18 @@ std::pair<std::string, int> DialogTemplate::getFont() const
     const auto parts = partsOf(buffer_, size_);
     if (!parts || !parts->hasFont)
         return {"", -1};
+    const auto pointSize = readNumber<std::int16_t>(buffer_, parts->font);
+    if (!parts->hasFace)
+        return {"", pointSize};
     const std::size_t face = parts->font + parts->layout->fontFixedSize;
-    return {readText(buffer_, face, parts->faceLength).to_narrow(),
-            readNumber<std::int16_t>(buffer_, parts->font)};
+    return {readText(buffer_, face, parts->faceLength).to_narrow(), pointSize};
 }
 
 bool DialogTemplate::setFont(const std::string& face, std::int16_t pointSize)
 {
     constexpr std::size_t faceRoom = 32; // with the NUL
     const auto parts = partsOf(buffer_, size_);
-    if (!parts)
+    if (!parts || pointSize == messageFontSize)
         return false;
     const GString text(face);
     const bool fits = text.size() < faceRoom;
@@ -131,7 +134,7 @@ bool DialogTemplate::setFont(const std::string& face, std::int16_t pointSize)
     const std::span<std::byte> bytes(buffer_);
     const std::size_t style = parts->layout->style;
     writeNumber(bytes, style, readNumber<std::uint32_t>(bytes, style) | setFontStyle);
-    if (!parts->hasFont) // weight, italic and character set of a new block: those of no choice
+    if (!parts->hasFace) // weight, italic and character set of a new block: those of no choice
         std::fill_n(buffer_.begin() + static_cast<std::ptrdiff_t>(parts->font), fixed, std::byte());
     writeNumber(bytes, parts->font, pointSize);
     if (fits)
@@ -142,7 +145,7 @@ bool DialogTemplate::setFont(const std::string& face, std::int16_t pointSize)
 bool DialogTemplate::setFontSize(std::int16_t pointSize)
 {
     const auto parts = partsOf(buffer_, size_);
-    if (!parts || !parts->hasFont)
+    if (!parts || !parts->hasFace || pointSize == messageFontSize)
         return false;
     writeNumber(std::span(buffer_), parts->font, pointSize);
     return true;

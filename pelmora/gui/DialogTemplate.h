@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-struct HINSTANCE__; // what a module handle of Windows points to
+struct HINSTANCE__; // what a module handle of Windows points to, unless NO_STRICT is defined
 
 namespace Pelmora::Native
 {
@@ -79,19 +79,20 @@ public:
     void setCaption(const GString& caption);
 
     /// The face in the ANSI code page and the size in points; "" and -1 without a template or a
-    /// font.
+    /// font, "" and 0x7FFF where the template asks for the system's font for messages.
     std::pair<std::string, int> getFont() const;
 
-    /// Sets the font, also where there was none, and keeps weight, italic and character set; false
-    /// without a template. A face of 32 or more UTF-16 units does not fit: the template is left
-    /// with a size and without a face, on purpose, and is of no use until it is loaded again.
+    /// Sets the font. Weight, italic and character set stay, or are 0 where there was no face.
+    /// False without a template and for a size of 0x7FFF. A face of 32 or more UTF-16 units does
+    /// not fit: the template is left with a size and without a face, on purpose, and is of no use
+    /// until it is loaded again.
     bool setFont(const std::string& face, std::int16_t pointSize);
     bool setFont(const GString& face, std::int16_t pointSize)
     {
         return setFont(face.to_narrow(), pointSize);
     }
 
-    /// False without a template or a font.
+    /// False without a template or a face, and for a size of 0x7FFF.
     bool setFontSize(std::int16_t pointSize);
 
     /// In dialog units, of which the low 16 bits count.

@@ -4,8 +4,10 @@
 #include "pelmora/log/LogStream.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 namespace Pelmora::Native
@@ -20,7 +22,8 @@ Font& Font::operator=(Font&& other) noexcept
 
 bool Font::attach(HFONT font) noexcept
 {
-    reset();
+    if (font != handle_)
+        reset();
     handle_ = font;
     return font != nullptr;
 }
@@ -46,6 +49,13 @@ using Gdi::ScreenDc;
 using Gdi::withDc;
 
 constexpr int decipointsPerInch = 720;
+
+/// a * b / c, rounded towards 0 and kept in range; 0 where a device context gives 0 for c.
+int scaled(std::int64_t a, int b, int c)
+{
+    constexpr std::int64_t most = std::numeric_limits<int>::max();
+    return c == 0 ? 0 : static_cast<int>(std::clamp(a * b / c, -most, most));
+}
 
 int CALLBACK noteFound(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM found)
 {
@@ -87,8 +97,8 @@ BYTE systemCharset()
 {
     CHARSETINFO information = {};
     const std::uintptr_t codePage = GetACP();
-    TranslateCharsetInfo(reinterpret_cast<DWORD*>(codePage), // NOLINT: the flag makes it a number
-                         &information, TCI_SRCCODEPAGE);
+    auto* const asAddress = reinterpret_cast<DWORD*>(codePage); // NOLINT: the flag says number
+    TranslateCharsetInfo(asAddress, &information, TCI_SRCCODEPAGE);
     return static_cast<BYTE>(information.ciCharset);
 }
 
@@ -153,7 +163,7 @@ int decipointsToHeight(int decipoints, HDC dc)
 {
     return withDc<ScreenDc>(dc, [decipoints](HDC used) {
         POINT points[] = {
-            {0, GetDeviceCaps(used, LOGPIXELSY) * decipoints / decipointsPerInch},
+            {0, scaled(GetDeviceCaps(used, LOGPIXELSY), decipoints, decipointsPerInch)},
             {0, 0},
         };
         DPtoLP(used, points, 2);
@@ -166,7 +176,7 @@ int heightToDecipoints(int height, HDC dc)
     return withDc<ScreenDc>(dc, [height](HDC used) {
         POINT point = {0, height};
         LPtoDP(used, &point, 1);
-        return static_cast<int>(point.y) * decipointsPerInch / GetDeviceCaps(used, LOGPIXELSY);
+        return scaled(point.y, decipointsPerInch, GetDeviceCaps(used, LOGPIXELSY));
     });
 }
 

@@ -21,7 +21,8 @@ public:
     ~Font() { reset(); }
 
     /// Takes over a font in place of the one held, which is deleted; false for null, which leaves
-    /// none. A stock font may be attached as well: deleting it does nothing.
+    /// none. A stock font may be attached as well: deleting it does nothing. Requires: nobody else
+    /// owns it.
     bool attach(HFONT font) noexcept;
 
     /// The font, now the caller's to delete; this object holds none.
@@ -43,7 +44,8 @@ private:
 /// which 720 make an inch. Face names are in the ANSI code page and have at most 31 bytes that
 /// count. Where a device context may be left out, one of the screen serves.
 ///
-/// All functions may run in several threads at once, each with a device context of its own.
+/// All functions may run in several threads at once, each with a device context of its own, and
+/// `create` as far as the log allows.
 namespace FontUtil
 {
 
@@ -56,13 +58,15 @@ PELMORA_API bool create(Font& font, const GString& face, int height, bool bold, 
 PELMORA_API HFONT createHandle(const std::string& face, int height, bool bold, bool italic);
 PELMORA_API HFONT createHandle(const GString& face, int height, bool bold, bool italic);
 
-/// The character set of the ANSI code page, 0 (ANSI_CHARSET) for the Western European one.
+/// The system character set: that of the ANSI code page, 0 (ANSI_CHARSET) for the Western European
+/// one and where the code page has none.
 PELMORA_API BYTE systemCharset();
 
-/// Whether that is another one. Asked of the system once in a process.
+/// Whether the system character set is not ANSI_CHARSET. Asked of the system once in a process.
 PELMORA_API bool isNonAnsiSystem();
 
-/// Whether "Small Fonts" is installed in it. Asked of the system once in a process.
+/// Whether "Small Fonts" is installed in the system character set. Asked of the system once in a
+/// process.
 PELMORA_API bool hasSmallFonts();
 
 /// Whether a font of that face is installed, in one character set or in any.
@@ -72,15 +76,17 @@ PELMORA_API bool existsAnyCharset(const std::string& face, HDC dc = nullptr);
 PELMORA_API bool existsAnyCharset(const GString& face, HDC dc = nullptr);
 
 /// The font's measures in logical units; of the line, ascent and descent together, or all of them.
-/// 0, or zeros, when the system fails.
+/// Those of the device context's own font for null, and 0, or zeros, when the system fails.
 PELMORA_API int textHeight(HFONT font, HDC dc = nullptr);
 PELMORA_API void textMetrics(TEXTMETRICA& metrics, HFONT font, HDC dc = nullptr);
 
-/// The height for CreateFontA that gives characters of that size, never positive; rounded towards
-/// 0.
+/// The height for CreateFontA that gives characters of that size, never positive. Pixels are
+/// rounded towards 0.
 PELMORA_API int decipointsToHeight(int decipoints, HDC dc = nullptr);
 
-/// The size of that height, with its sign; rounded towards 0.
+/// The size of that height, rounded towards 0. A point at that height is measured: the sign turns
+/// where a mapping mode points upwards, and origins other than 0 count. 0 for a device context that
+/// has no resolution.
 PELMORA_API int heightToDecipoints(int height, HDC dc = nullptr);
 
 } // namespace FontUtil

@@ -57,7 +57,8 @@ INT_PTR ModalDialog::handleMessage(UINT message, WPARAM wParam, LPARAM)
     if (message == WM_INITDIALOG)
         return TRUE; // the first control gets the focus
     const WORD command = LOWORD(wParam);
-    if (message != WM_COMMAND || (command != IDOK && command != IDCANCEL))
+    const bool isPressed = message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED;
+    if (!isPressed || (command != IDOK && command != IDCANCEL))
         return FALSE;
     end(command);
     return TRUE;

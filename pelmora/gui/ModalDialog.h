@@ -25,22 +25,25 @@ public:
     ModalDialog& operator=(const ModalDialog&) = delete;
     virtual ~ModalDialog() = default;
 
-    /// Runs the dialog above `parent`, which may be null and is disabled meanwhile, and gives what
-    /// `end` was called with. None when it cannot be made: the template is not valid or the system
-    /// refuses it, and GetLastError may say why. `module` is where its pictures and menus are, null
-    /// for the program itself. Requires: it does not run already.
+    /// Runs the dialog above `parent`, a window of this thread or null, which is disabled
+    /// meanwhile, and gives what `end` was called with. None when it cannot be made: the template
+    /// is not valid or the system refuses it or the parent, and GetLastError may say why. `module`
+    /// is where its pictures and menus are, null for the program itself. Requires: it does not run
+    /// already; a window class that the template names has DLGWINDOWEXTRA bytes.
     std::optional<INT_PTR> run(const DialogTemplate& dialog, HWND parent, HMODULE module = nullptr);
 
-    /// Null while the dialog is not on the screen.
+    /// The dialog from WM_INITDIALOG until `run` returns, otherwise null.
     HWND window() const noexcept { return window_; }
 
 protected:
     /// A message, beginning with WM_INITDIALOG; what the dialog procedure is to return, which is
-    /// not 0 for a message that was dealt with. This one ends the dialog with IDOK or IDCANCEL when
-    /// such a button is pressed, and with IDCANCEL when it is closed.
+    /// not 0 for a message that was dealt with. Where a message has a result of its own, that is
+    /// set as in any dialog procedure (DWLP_MSGRESULT). This one ends the dialog with IDOK or
+    /// IDCANCEL when such a button is pressed, and with IDCANCEL when it is closed.
     virtual INT_PTR handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
-    /// Ends the dialog when the handler returns. Requires: it runs.
+    /// Ends the dialog when the handler returns; destroying its window is no way to. Requires: it
+    /// runs.
     void end(INT_PTR result);
 
 private:

@@ -88,7 +88,8 @@ std::optional<DialogParts> dialogParts(std::span<const std::byte> bytes)
     parts.layout = isExtended ? &extended : &classic;
     Reader reader(bytes);
     reader.skip(parts.layout->headerSize);
-    if (reader.failed())
+    constexpr std::uint16_t onlyVersion = 1; // others are read as classic by some systems
+    if (reader.failed() || (isExtended && readNumber<std::uint16_t>(bytes, 0) != onlyVersion))
         return std::nullopt;
     parts.hasFont = (readNumber<std::uint32_t>(bytes, parts.layout->style) & setFontStyle) != 0;
     parts.itemCount = readNumber<std::uint16_t>(bytes, parts.layout->itemCount);
@@ -97,8 +98,9 @@ std::optional<DialogParts> dialogParts(std::span<const std::byte> bytes)
     parts.caption = reader.position();
     parts.captionLength = reader.string();
     parts.font = reader.position();
-    if (parts.hasFont) {
-        reader.skip(parts.layout->fontFixedSize);
+    parts.hasFace = parts.hasFont && reader.word() != messageFontSize;
+    if (parts.hasFace) {
+        reader.skip(parts.layout->fontFixedSize - 2); // without the size
         parts.faceLength = reader.string();
     }
     parts.items = reader.position();

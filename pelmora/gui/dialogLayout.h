@@ -27,18 +27,19 @@ struct DialogParts {
     std::size_t captionLength; ///< in units, without the NUL
     std::size_t font;          ///< behind the caption's NUL
     bool hasFont;
+    bool hasFace;           ///< and what stands between size and face
     std::size_t faceLength; ///< in units, without the NUL
     std::size_t items;      ///< behind the font block, not aligned
     std::uint16_t itemCount;
 
-    std::size_t fontBlockSize() const
-    {
-        return hasFont ? layout->fontFixedSize + 2 * (faceLength + 1) : 0;
-    }
+    std::size_t fontBlockSize() const { return items - font; }
 };
 
 /// Says that a template has a font.
 inline constexpr std::uint32_t setFontStyle = 0x40;
+
+/// In place of a point size: the system's font for messages. Nothing more is said of the font.
+inline constexpr std::int16_t messageFontSize = 0x7FFF;
 
 constexpr std::size_t alignedTo4(std::size_t position)
 {

@@ -1,6 +1,8 @@
 // What DialogTemplate asks the system.
 
 #include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/FontUtil.h"
+#include "pelmora/gui/dialogLayout.h"
 #include "pelmora/gui/gdi.h"
 #include "pelmora/gui/resources.h"
 
@@ -19,6 +21,24 @@ DialogPoint systemBaseUnits()
     return {LOWORD(units), HIWORD(units)};
 }
 
+HFONT fontOf(const DialogTemplate& dialog, const Gdi::ScreenDc& screen)
+{
+    const auto [face, pointSize] = dialog.getFont();
+    const int height = -MulDiv(pointSize, GetDeviceCaps(screen.get(), LOGPIXELSY), 72);
+    return CreateFontA(height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET,
+                       OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH,
+                       face.c_str());
+}
+
+HFONT messageFont()
+{
+    NONCLIENTMETRICSA metrics = {};
+    metrics.cbSize = sizeof metrics;
+    if (SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) == 0)
+        return nullptr;
+    return CreateFontIndirectA(&metrics.lfMessageFont);
+}
+
 } // namespace
 
 bool DialogTemplate::load(HINSTANCE__* module, std::uint16_t resource)
@@ -34,17 +54,12 @@ DialogPoint DialogTemplate::getBaseUnits() const
 {
     static constexpr std::string_view letters =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    if (!valid())
+    const auto parts = dialogParts(bytes());
+    if (!parts)
         return none;
-    const auto [face, pointSize] = getFont();
-    if (face.empty() && pointSize == -1)
-        return systemBaseUnits();
     const Gdi::ScreenDc screen;
-    const int height = -MulDiv(pointSize, GetDeviceCaps(screen.get(), LOGPIXELSY), 72);
     Font font;
-    if (!font.attach(CreateFontA(height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET,
-                                 OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                                 DEFAULT_PITCH, face.c_str())))
+    if (!parts->hasFont || !font.attach(parts->hasFace ? fontOf(*this, screen) : messageFont()))
         return systemBaseUnits();
     const Gdi::Selection selected(screen.get(), font.get());
     TEXTMETRICA metrics = {};
@@ -58,14 +73,18 @@ DialogPoint DialogTemplate::getBaseUnits() const
 
 DialogPoint DialogTemplate::dialogToPixels(DialogPoint units) const
 {
+    if (!valid())
+        return none;
     const DialogPoint base = getBaseUnits();
-    return valid() ? DialogPoint{MulDiv(units.x, base.x, 4), MulDiv(units.y, base.y, 8)} : none;
+    return {MulDiv(units.x, base.x, 4), MulDiv(units.y, base.y, 8)};
 }
 
 DialogPoint DialogTemplate::pixelsToDialog(DialogPoint pixels) const
 {
+    if (!valid())
+        return none;
     const DialogPoint base = getBaseUnits();
-    return valid() ? DialogPoint{MulDiv(pixels.x, 4, base.x), MulDiv(pixels.y, 8, base.y)} : none;
+    return {MulDiv(pixels.x, 4, base.x), MulDiv(pixels.y, 8, base.y)};
 }
 
 } // namespace Pelmora::Native

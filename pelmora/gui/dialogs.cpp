@@ -18,17 +18,31 @@ bool hasFocus(HWND control)
     return focus != nullptr && (focus == control || IsChild(control, focus) != 0);
 }
 
+/// The next control in tab order that is not within this one; null when there is none.
+HWND nextControl(HWND control)
+{
+    const HWND parent = GetParent(control);
+    const HWND first = GetNextDlgTabItem(parent, control, FALSE);
+    HWND next = first;
+    while (next != nullptr && IsChild(control, next) != 0) {
+        next = GetNextDlgTabItem(parent, next, FALSE);
+        if (next == first)
+            return nullptr;
+    }
+    return next == control ? nullptr : next;
+}
+
 /// Before the control can no longer take the focus.
 void passFocusOn(HWND control)
 {
     if (!hasFocus(control))
         return;
-    const HWND parent = GetParent(control);
-    const HWND next = GetNextDlgTabItem(parent, control, FALSE);
-    if (next == nullptr || next == control)
+    const HWND next = nextControl(control);
+    if (next == nullptr)
         return;
     // Dialogs move their default button along with the focus; other parents do nothing.
-    SendMessageW(parent, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE); // NOLINT: a handle
+    SendMessageW(GetParent(control), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), // NOLINT
+                 TRUE);
     if (hasFocus(control))
         SetFocus(next);
 }
@@ -37,13 +51,16 @@ void passFocusOn(HWND control)
 
 INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, HWND parent, HMODULE module)
 {
+    SetLastError(ERROR_SUCCESS);
     DialogTemplate loaded;
     if (loaded.load(module, resource)) {
         setDialogTemplateFont(loaded);
         if (const auto result = dialog.run(loaded, parent, module))
             return *result;
     }
-    const std::string reason = systemErrorText(GetLastError());
+    const DWORD error = GetLastError();
+    const std::string reason =
+        error == ERROR_SUCCESS ? "the system gives no reason" : systemErrorText(error);
     get_log() << "runModalDialog(" << resource << ") - initialisation error: " << reason << endl;
     return IDCANCEL;
 }

@@ -9,7 +9,14 @@ namespace
 
 constexpr std::uint64_t smallestHeader = 40;
 
-enum Compression : std::uint32_t { uncompressed = 0, bitFields = 3, alphaBitFields = 6 };
+enum Compression : std::uint32_t {
+    runLength8 = 1,
+    runLength4 = 2,
+    bitFields = 3,
+    jpeg = 4,
+    png = 5,
+    alphaBitFields = 6,
+};
 
 /// The fields of a BITMAPINFOHEADER that tell how large everything is.
 struct Header {
@@ -52,20 +59,32 @@ std::optional<std::uint64_t> colourTableEntries(const Header& header)
     }
 }
 
-/// Whether the pixels, and what else follows the header, are not more than these bytes.
+/// Whether these many bytes hold the pixels.
 bool fits(const Header& header, std::uint64_t room)
 {
-    const bool hasMasks = header.compression == bitFields || header.compression == alphaBitFields;
-    constexpr std::uint64_t masks = 16;
-    if (hasMasks && header.size == smallestHeader && room < masks)
-        return false;
-    if (header.compression != uncompressed && !hasMasks)
-        return header.imageSize <= room;
+    switch (header.compression) {
+    case runLength8:
+    case runLength4:
+    case jpeg:
+    case png:
+        return header.imageSize > 0 && header.imageSize <= room;
+    default:
+        break;
+    }
     const std::uint64_t lineBits = static_cast<std::uint64_t>(header.width) * header.bitCount;
     const std::uint64_t line = (lineBits + 31) / 32 * 4;
     const auto lines =
         static_cast<std::uint64_t>(header.height < 0 ? -header.height : header.height);
     return line == 0 || lines <= room / line;
+}
+
+/// Whether there are the colour masks that some compressions have at a fixed place, within the
+/// header or behind it.
+bool hasItsMasks(const Header& header, std::uint64_t size)
+{
+    constexpr std::uint64_t behindMasks = smallestHeader + 16;
+    const bool needsMasks = header.compression == bitFields || header.compression == alphaBitFields;
+    return !needsMasks || size >= behindMasks;
 }
 
 } // namespace
@@ -76,7 +95,8 @@ std::optional<std::size_t> dibPixelOffset(std::span<const std::byte> resource)
         return std::nullopt;
     const Header header = headerOf(resource);
     const auto entries = colourTableEntries(header);
-    if (header.size < smallestHeader || header.width < 0 || !entries)
+    if (header.size < smallestHeader || header.width < 0 || !entries ||
+        !hasItsMasks(header, resource.size()))
         return std::nullopt;
     const std::uint64_t offset = header.size + 4 * *entries;
     if (offset > resource.size() || !fits(header, resource.size() - offset))

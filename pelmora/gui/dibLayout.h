@@ -13,7 +13,7 @@ namespace Pelmora::Native
 /// bytes than there are.
 ///
 /// A header that does not say how many entries the table has stands for 16 also with 1 bit a pixel,
-/// on purpose.
+/// and colour masks behind a header are counted as pixels, both on purpose.
 std::optional<std::size_t> dibPixelOffset(std::span<const std::byte> resource);
 
 } // namespace Pelmora::Native

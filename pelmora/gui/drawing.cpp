@@ -60,19 +60,27 @@ void drawSolidRect(HDC dc, int left, int top, int right, int bottom, COLORREF co
 {
     const Gdi::Object<HPEN> noPen(CreatePen(PS_NULL, 0, colour));
     const Gdi::Object<HBRUSH> brush(CreateSolidBrush(colour));
+    if (noPen.get() == nullptr || brush.get() == nullptr)
+        return;
     const Gdi::Selection pen(dc, noPen.get());
     const Gdi::Selection fill(dc, brush.get());
-    if (right - left > 2 && bottom - top > 2) {
-        // Larger than asked for by what the pen, which is null, would draw.
-        Rectangle(dc, left - 1, top - 1, right + 1, bottom + 1);
+    const auto difference = [](int a, int b) { return std::int64_t(a) - b; };
+    if (difference(right, left) > 2 && difference(bottom, top) > 2) {
+        // Larger than asked for, to make up for the pen, which is null.
+        const auto moved = [&](int edge, int by) {
+            return static_cast<int>(difference(edge, -by));
+        };
+        Rectangle(dc, moved(left, -1), moved(top, -1), moved(right, 1), moved(bottom, 1));
         return;
     }
     // Paints nothing, on purpose: the pen is null here, too.
-    MoveToEx(dc, left, top, nullptr);
+    POINT before = {};
+    MoveToEx(dc, left, top, &before);
     LineTo(dc, right, top);
     LineTo(dc, right, bottom);
     LineTo(dc, left, bottom);
     LineTo(dc, left, top);
+    MoveToEx(dc, before.x, before.y, nullptr);
 }
 
 } // namespace Pelmora::Native

@@ -13,7 +13,8 @@ namespace Pelmora::Native
 {
 
 /// A rectangle by its corner and its size, in logical units of a device context or in pixels of a
-/// picture, which are counted from its lower left corner.
+/// picture. The latter are counted from its lower left corner, or from the upper left one of a
+/// picture that is stored top-down, with a negative height.
 struct Area {
     int x;
     int y;
@@ -23,10 +24,13 @@ struct Area {
 
 /// Draws the part `source` of a bitmap resource (type RT_BITMAP) of a module, null for the
 /// program's own, scaled into `destination`; areas of no size and mirrored ones are up to the
-/// system. False when it is not drawn, with one line in the error log: when there is no such
-/// resource, or its header is not one of a BITMAPINFOHEADER that fits its size, nothing is touched.
-/// Bitmaps of 1, 4, 8, 16, 24 and 32 bits; one of 1 bit without a number of colours needs a colour
-/// table of 16 entries.
+/// system. False, with one line in the error log, when there is no such resource or its header is
+/// not one of a BITMAPINFOHEADER that fits its size, and then nothing is touched; or when the
+/// system answers with an error, which it does not for everything that it does not draw.
+///
+/// Bitmaps of 1, 4, 8, 16, 24 and 32 bits. Kept as they are: one of 1 bit without a number of
+/// colours needs a colour table of 16 entries, and colour masks behind a header of 40 bytes are
+/// drawn as pixels.
 PELMORA_API bool showDib(HDC dc, std::uint16_t resource, const Area& destination,
                          const Area& source, HMODULE module = nullptr);
 

@@ -1,10 +1,5 @@
 #pragma once
 
-#include "pelmora/gui/FontUtil.h"
-
-#include <type_traits>
-#include <utility>
-
 #include <windows.h>
 
 // Owners of what GDI lends. None is ever copied.

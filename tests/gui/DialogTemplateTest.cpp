@@ -111,6 +111,26 @@ TEST(DialogTemplate, AFaceThatDoesNotFitLeavesNone)
     }
 }
 
+TEST(DialogTemplate, TheFontForMessagesHasNoFace)
+{
+    for (SampleDialog sample : samples()) {
+        sample.hasFont = true;
+        sample.pointSize = 0x7FFF;
+        sample.face = u"";
+        DialogTemplate dialog(built(sample).bytes);
+        sample.caption = u"Bedside";
+        dialog.setCaption(u"Bedside");
+        EXPECT_FALSE(dialog.setFontSize(9));
+        expectSame(dialog, sample);
+        sample.pointSize = 9;
+        sample.face = u"Arial";
+        sample.weightAndCharset = 0;
+        EXPECT_TRUE(dialog.setFont("Arial", 9));
+        EXPECT_FALSE(dialog.setFont("Arial", 0x7FFF) || dialog.setFontSize(0x7FFF));
+        expectSame(dialog, sample);
+    }
+}
+
 /// Whether no operation does anything.
 bool takesEmptyPaths(DialogTemplate dialog)
 {
@@ -135,12 +155,15 @@ TEST(DialogTemplate, WhatIsNoWholeTemplateIsLeftAlone)
         dialog.setSize({1, 0x8000});
         const DialogTemplate taken = std::move(dialog);
         EXPECT_TRUE(takesEmptyPaths(dialog)); // NOLINT: without a template
-        auto at = bytes.begin() + (sample.isExtended ? 18 : 10);
-        for (const unsigned int number : {0xFE, 0xFF, 0x34, 0x12, 1, 0, 0, 0x80})
-            *at++ = static_cast<std::byte>(number);
+        auto corner = bytes.begin() + (sample.isExtended ? 18 : 10);
+        for (const int number : {0xFE, 0xFF, 0x34, 0x12, 1, 0, 0, 0x80})
+            *corner++ = static_cast<std::byte>(number);
         EXPECT_EQ(bytesOf(taken), bytes);
-        bytes[sample.isExtended ? 16 : 8] = std::byte(sample.items + 1);
-        EXPECT_TRUE(takesEmptyPaths(DialogTemplate(bytes)));
+        for (const unsigned int at : {16U, 0U}) { // the number of items, the version
+            auto lying = bytes;
+            lying[sample.isExtended ? at : 8U] = std::byte(9);
+            EXPECT_TRUE(takesEmptyPaths(DialogTemplate(lying)));
+        }
     }
 }
 

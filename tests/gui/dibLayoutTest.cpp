@@ -73,9 +73,13 @@ TEST(DibLayout, HeadersThatAreRefused)
         {.width = -10},
         {.bitCount = 32, .width = most, .height = -most - 1},
         {.compression = 4, .imageSize = 0xFFFFFFFF},
+        {.bitCount = 4, .compression = 2},
     };
     for (const Fields& fields : rows)
         EXPECT_EQ(dibPixelOffset(resource(fields, 100'000)), std::nullopt) << fields.bitCount;
+    const Fields masked = {
+        .bitCount = 16, .width = 1, .height = 1, .headerSize = 44, .compression = 3};
+    EXPECT_EQ(dibPixelOffset(resource(masked, 48)), std::nullopt); // its masks are cut
 }
 
 } // namespace

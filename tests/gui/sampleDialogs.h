@@ -67,8 +67,9 @@ inline BuiltDialog built(const SampleDialog& sample)
     text(sample.menu);
     text(sample.windowClass);
     text(sample.caption);
-    if (sample.hasFont) {
+    if (sample.hasFont)
         word(sample.pointSize);
+    if (sample.hasFont && sample.pointSize != 0x7FFF) { // which stands for all of a font
         if (sample.isExtended)
             doubleWord(sample.weightAndCharset);
         text(sample.face);
