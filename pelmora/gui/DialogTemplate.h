@@ -10,7 +10,8 @@
 #include <utility>
 #include <vector>
 
-struct HINSTANCE__; // what a module handle of Windows points to, unless NO_STRICT is defined
+// What a module handle of Windows points to, unless NO_STRICT is defined.
+struct HINSTANCE__; // NOLINT: the system's own name
 
 namespace Pelmora::Native
 {

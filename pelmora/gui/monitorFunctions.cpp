@@ -1,13 +1,20 @@
 #include "pelmora/gui/monitorFunctions.h"
 
 #include <cstring>
+#include <string_view>
 
 namespace Pelmora::Native
 {
 namespace
 {
 
-constexpr const char* singleDevice = "DISPLAY";
+/// Names the device in a record's array.
+template <std::size_t size>
+void nameDevice(char (&name)[size])
+{
+    constexpr std::string_view singleDevice = "DISPLAY";
+    name[singleDevice.copy(name, size - 1)] = '\0';
+}
 
 /// Stands for the one monitor; never dereferenced.
 HMONITOR singleMonitor()
@@ -34,8 +41,7 @@ BOOL WINAPI singleInformation(HMONITOR monitor, MONITORINFO* information)
     information->rcMonitor = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     information->dwFlags = MONITORINFOF_PRIMARY;
     if (information->cbSize >= sizeof(MONITORINFOEXA))
-        std::strcpy(reinterpret_cast<MONITORINFOEXA*>(information)->szDevice, // NOLINT: by its size
-                    singleDevice);
+        nameDevice(reinterpret_cast<MONITORINFOEXA*>(information)->szDevice); // NOLINT: by its size
     return SystemParametersInfoA(SPI_GETWORKAREA, 0, &information->rcWork, 0);
 }
 
@@ -43,7 +49,7 @@ BOOL WINAPI singleDevices(const char* adapter, DWORD index, DISPLAY_DEVICEA* dev
 {
     if (adapter != nullptr || index != 0)
         return FALSE;
-    std::strcpy(device->DeviceName, singleDevice);
+    nameDevice(device->DeviceName);
     device->StateFlags = DISPLAY_DEVICE_ATTACHED_TO_DESKTOP | DISPLAY_DEVICE_PRIMARY_DEVICE;
     return TRUE;
 }

@@ -252,6 +252,7 @@ bool RegistryKey::writeMultiString(const std::string& name, const std::vector<st
 bool RegistryKey::writeMultiString(const GString& name, const std::vector<GString>& values)
 {
     std::vector<std::string> narrow;
+    narrow.reserve(values.size());
     for (const GString& value : values)
         narrow.push_back(value.to_narrow());
     return writeMultiString(name.to_narrow(), narrow);
