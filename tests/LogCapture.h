@@ -4,8 +4,9 @@
 
 #include <fstream>
 #include <iterator>
-#include <random>
 #include <string>
+
+#include <windows.h>
 
 namespace Pelmora
 {
@@ -15,23 +16,18 @@ namespace Pelmora
 class LogCapture
 {
 public:
-    LogCapture()
-    {
-        static const std::string name =
-            "pelmora-" + std::to_string(std::random_device()()) + ".log";
-        Native::log_settings().file_name = name;
-        before_ = content().size();
-    }
-    std::string text() const { return content().substr(before_); }
+    std::string text() const { return content().substr(before_.size()); }
 
 private:
     static std::string content()
     {
+        Native::log_settings().file_name =
+            "pelmora-" + std::to_string(GetCurrentProcessId()) + ".log";
         std::ifstream file(Native::get_log().path());
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    std::size_t before_;
+    std::string before_ = content();
 };
 
 } // namespace Pelmora

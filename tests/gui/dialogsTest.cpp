@@ -1,17 +1,17 @@
 #include "pelmora/gui/dialogs.h"
 
 #include "pelmora/gui/FontUtil.h"
+#include "pelmora/gui/dialogLayout.h"
+#include "pelmora/gui/littleEndian.h"
 
 #include "tests/LogCapture.h"
 #include "tests/gui/ResourceModule.h"
-#include "tests/gui/Window.h"
 #include "tests/gui/sampleDialogs.h"
 
+#include <array>
 #include <functional>
 #include <stdexcept>
 #include <tuple>
-
-#include <gtest/gtest.h>
 
 #include <commctrl.h>
 
@@ -20,80 +20,73 @@ namespace Pelmora::Native
 namespace
 {
 
-INT_PTR CALLBACK ignore(HWND, UINT, WPARAM, LPARAM)
+HWND made(const Bytes& dialog, HWND parent)
 {
-    return FALSE;
+    const DLGPROC ignore = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
+    return CreateDialogIndirectParamW(GetModuleHandleW(nullptr),
+                                      reinterpret_cast<const DLGTEMPLATE*>(dialog.data()), parent,
+                                      ignore, 0);
 }
 
 /// A dialog with three buttons, the first of which has the focus.
-class FocusTest : public testing::Test
+class DialogsTest : public testing::Test
 {
 protected:
-    FocusTest()
+    DialogsTest()
     {
-        const auto bytes = built({.items = 3}).bytes;
-        dialog = CreateDialogIndirectParamA(GetModuleHandleA(nullptr),
-                                            reinterpret_cast<const DLGTEMPLATE*>(bytes.data()),
-                                            nullptr, ignore, 0);
+        const INITCOMMONCONTROLSEX all = {sizeof all, 0xFFFF};
+        InitCommonControlsEx(&all);
         ShowWindow(dialog, SW_SHOW);
         SetFocus(button(0));
     }
-    ~FocusTest() override { DestroyWindow(dialog); }
+    ~DialogsTest() override { DestroyWindow(dialog); }
 
     HWND button(int index) const { return GetDlgItem(dialog, 100 + index); }
-    bool isDefault(int index) const
+    HWND child(const char* className, DWORD style) const
     {
-        return (GetWindowLongA(button(index), GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+        return CreateWindowExA(0, className, "", WS_CHILD | style, 0, 0, 100, 100, dialog, nullptr,
+                               nullptr, nullptr);
     }
 
-    HWND dialog;
+    HWND dialog = made(built({.items = 3}), nullptr);
 };
 
-TEST_F(FocusTest, MovesOnFromWhatCannotKeepIt)
+TEST_F(DialogsTest, TheFocusMovesOnFromWhatCannotKeepIt)
 {
+    EXPECT_FALSE(disableControl(button(1)));
+    EXPECT_EQ(GetFocus(), button(0));              // which keeps it
+    EXPECT_FALSE(enableControl(button(1), false)); // as it is
+    EXPECT_TRUE(enableControl(button(1), true));
+    EXPECT_TRUE(enableControl(button(1), true)); // as it is
     EXPECT_FALSE(disableControl(button(0)));
     EXPECT_EQ(GetFocus(), button(1));
-    EXPECT_TRUE(isDefault(1));
+    EXPECT_EQ(GetWindowLongA(button(1), GWL_STYLE) & BS_TYPEMASK, BS_DEFPUSHBUTTON);
     EXPECT_TRUE(disableControl(button(0))); // it was disabled already
     EXPECT_TRUE(showControl(button(1), false));
     EXPECT_EQ(GetFocus(), button(2));
-    EXPECT_TRUE(isDefault(2) && !isDefault(1));
     EXPECT_TRUE(enableControl(button(0), true));
     EXPECT_FALSE(enableControl(button(2), false)); // from the last to the first
     EXPECT_EQ(GetFocus(), button(0));
 
-    const Window combo("COMBOBOX", WS_CHILD | WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWN, dialog);
-    SetFocus(combo.get());
-    ASSERT_NE(GetFocus(), combo.get()); // its edit control has it
-    disableControl(combo.get());
+    const HWND combo = child("COMBOBOX", WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWN);
+    SetFocus(combo);
+    ASSERT_NE(GetFocus(), combo); // its edit control has it
+    disableControl(combo);
     EXPECT_EQ(GetFocus(), button(0));
 }
 
-TEST_F(FocusTest, StaysWhereItCan)
+TEST_F(DialogsTest, ComboBoxesAreRecognized)
 {
-    disableControl(button(1));
-    showControl(button(2), false);
-    EXPECT_FALSE(enableControl(button(1), false)); // as it is
-    EXPECT_TRUE(enableControl(button(0), true));   // as it is
-    EXPECT_EQ(GetFocus(), button(0));
-}
-
-TEST(Dialogs, ComboBoxes)
-{
-    const INITCOMMONCONTROLSEX extended = {sizeof extended, ICC_USEREX_CLASSES};
-    InitCommonControlsEx(&extended);
     const std::tuple<const char*, DWORD, bool, bool> rows[] = {
         {"ComboBox", CBS_SIMPLE, true, false},
-        {"COMBOBOX", CBS_DROPDOWN, true, false},
         {"combobox", CBS_DROPDOWNLIST, true, true},
         {"ComboBoxEx32", CBS_DROPDOWNLIST, false, true},
         {"EDIT", 0, false, false},
     };
-    const Window parent("STATIC", WS_POPUP);
     for (const auto& [className, style, isCombo, isList] : rows) {
-        const Window window(className, WS_CHILD | style, parent.get());
-        EXPECT_EQ(isComboBox(window.get()), isCombo) << className;
-        EXPECT_EQ(isDropDownList(window.get()), isList) << className;
+        const HWND window = child(className, style);
+        EXPECT_EQ(isComboBox(window), isCombo) << className;
+        EXPECT_EQ(isDropDownList(window), isList) << className;
     }
 }
 
@@ -113,23 +106,19 @@ protected:
 
 TEST(Dialogs, RunUntilTheyEnd)
 {
-    const DialogTemplate plain(built({.caption = u"Bed \u3042"}).bytes);
+    const DialogTemplate plain(built({.caption = u"Bed \u3042"}));
     TestDialog dialog;
-    const auto resultOf = [&](const std::function<void()>& atBegin) {
-        dialog.handler = [&](UINT message) {
-            if (message == WM_INITDIALOG)
-                atBegin();
+    for (const auto& [sent, result] : {std::pair(UINT(WM_COMMAND), IDOK), {WM_CLOSE, IDCANCEL}}) {
+        dialog.handler = [&, sent = sent](UINT message) {
+            if (message != WM_INITDIALOG)
+                return;
+            wchar_t title[20] = {};
+            GetWindowTextW(dialog.window(), title, 20);
+            EXPECT_STREQ(title, L"Bed \u3042");
+            PostMessageW(dialog.window(), sent, IDOK, 0);
         };
-        return dialog.run(plain, nullptr);
-    };
-    EXPECT_EQ(resultOf([&] { PostMessageW(dialog.window(), WM_COMMAND, IDOK, 0); }), IDOK);
-    EXPECT_EQ(resultOf([&] { PostMessageW(dialog.window(), WM_CLOSE, 0, 0); }), IDCANCEL);
-    EXPECT_EQ(resultOf([&] {
-                  wchar_t title[20] = {};
-                  GetWindowTextW(dialog.window(), title, 20);
-                  dialog.end(std::wstring_view(title) == L"Bed \u3042" ? 42 : 0);
-              }),
-              42);
+        EXPECT_EQ(dialog.run(plain, nullptr), result);
+    }
     for (const UINT when : {WM_INITDIALOG, WM_COMMAND, WM_DESTROY}) {
         dialog.handler = [&](UINT message) {
             if (message == WM_INITDIALOG)
@@ -144,21 +133,16 @@ TEST(Dialogs, RunUntilTheyEnd)
 
 TEST(Dialogs, RunFromResources)
 {
-    auto cut = built({}).bytes;
-    cut.pop_back();
-    const auto unknownClass = built({.windowClass = u"No such class"}).bytes;
-    const ResourceModule module(5, {{1, built({}).bytes}, {2, cut}, {3, unknownClass}});
+    const ResourceModule module(
+        RT_DIALOG, {{1, built({})}, {2, Bytes(20)}, {3, built({.windowClass = u"No such class"})}});
     TestDialog dialog;
     dialog.handler = [&](UINT) { dialog.end(42); };
     EXPECT_EQ(runModalDialog(dialog, 1, nullptr, module.get()), 42);
-    for (const unsigned int id : {2, 3, 999}) {
+    for (const auto id : std::to_array<std::uint16_t>({2, 3, 999})) {
         const LogCapture log;
-        const auto result =
-            runModalDialog(dialog, static_cast<std::uint16_t>(id), nullptr, module.get());
-        EXPECT_EQ(result, IDCANCEL);
-        const std::string line =
-            "runModalDialog(" + std::to_string(id) + ") - initialisation error: ";
-        EXPECT_EQ(log.text().substr(0, line.size()), line);
+        EXPECT_EQ(runModalDialog(dialog, id, nullptr, module.get()), IDCANCEL);
+        EXPECT_TRUE(log.text().starts_with("runModalDialog(" + std::to_string(id) +
+                                           ") - initialisation error: "));
     }
     DialogTemplate loaded;
     EXPECT_TRUE(loaded.load(module.get(), 2));
@@ -170,13 +154,76 @@ TEST(Dialogs, UnitsAreThoseOfTheFont)
 {
     EXPECT_EQ(DialogTemplate().dialogToPixels({4, 8}).x, -1);
     EXPECT_EQ(DialogTemplate().pixelsToDialog({4, 8}).y, -1);
-    const DialogTemplate dialog(built({.face = u"Liberation Sans"}).bytes);
+    const DialogTemplate dialog(built({.face = u"Liberation Sans"}));
     Font font; // 8 points are 10.67 pixels
     EXPECT_TRUE(FontUtil::create(font, "Liberation Sans", -11, false, false));
     const int line = dialog.getBaseUnits().y;
     EXPECT_GE(line, FontUtil::textHeight(font.get())); // and external leading
     EXPECT_EQ(dialog.dialogToPixels({7, -3}).y, MulDiv(-3, line, 8));
     EXPECT_EQ(dialog.pixelsToDialog({101, 99}).y, MulDiv(99, 8, line));
+}
+
+/// What no change of caption and font may touch: the beginning but for its style, and the items.
+Bytes otherParts(const DialogTemplate& dialog)
+{
+    const DialogParts parts = dialogParts(dialog.bytes()).value();
+    Bytes bytes(dialog.bytes().begin(), dialog.bytes().end());
+    bytes.resize(std::max(bytes.size(), alignedTo4(parts.items)));
+    bytes.erase(bytes.begin() + static_cast<std::ptrdiff_t>(parts.caption),
+                bytes.begin() + static_cast<std::ptrdiff_t>(alignedTo4(parts.items)));
+    writeNumber<std::uint32_t>(bytes, parts.layout->style, 0);
+    return bytes;
+}
+
+/// Changes caption and font; whether the system makes a window of it. It knows not every class.
+bool isMadeAsAsked(DialogTemplate dialog, HWND parent)
+{
+    const Bytes before = otherParts(dialog);
+    dialog.setCaption(u"Bedside \u00E9 \u3042");
+    EXPECT_TRUE(dialog.setFont("Liberation Sans", 9));
+    EXPECT_TRUE(otherParts(dialog) == before);
+    Bytes bytes(dialog.bytes().begin(), dialog.bytes().end());
+    const std::size_t at = dialogParts(bytes).value().layout->style;
+    writeNumber<std::uint32_t>(bytes, at, WS_POPUP | DS_SETFONT | DS_NOFAILCREATE);
+    const HWND window = made(bytes, parent);
+    if (window == nullptr)
+        return false;
+    wchar_t title[40] = {};
+    GetWindowTextW(window, title, 40);
+    EXPECT_STREQ(title, L"Bedside \u00E9 \u3042");
+    LOGFONTW font = {};
+    const LRESULT handle = SendMessageW(window, WM_GETFONT, 0, 0);
+    GetObjectW(reinterpret_cast<HFONT>(handle), sizeof font, &font);
+    EXPECT_STREQ(font.lfFaceName, L"Liberation Sans");
+    EXPECT_EQ(font.lfHeight, -12); // 9 points at 96 dots an inch
+    DestroyWindow(window);
+    return true;
+}
+
+BOOL CALLBACK keepNumber(HMODULE, const char*, char* name, LONG_PTR numbers)
+{
+    if (IS_INTRESOURCE(name))
+        reinterpret_cast<std::vector<std::uint16_t>*>(numbers)->push_back(LOWORD(name));
+    return TRUE;
+}
+
+TEST_F(DialogsTest, ThoseOfTheSystemTakeCaptionAndFont)
+{
+    int windows = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(systemFolder())) {
+        const HMODULE module =
+            LoadLibraryExW(entry.path().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+        std::vector<std::uint16_t> numbers;
+        EnumResourceNamesA(module, RT_DIALOG, keepNumber, reinterpret_cast<LONG_PTR>(&numbers));
+        for (const std::uint16_t number : numbers) {
+            SCOPED_TRACE(entry.path().filename().string() + " " + std::to_string(number));
+            DialogTemplate resource;
+            ASSERT_TRUE(resource.load(module, number) && resource.valid());
+            windows += isMadeAsAsked(resource, dialog) ? 1 : 0;
+        }
+        FreeLibrary(module);
+    }
+    EXPECT_GT(windows, 20);
 }
 
 } // namespace

@@ -1,10 +1,11 @@
 #include "pelmora/gui/drawing.h"
 
+#include "pelmora/gui/gdi.h"
+
 #include "tests/LogCapture.h"
-#include "tests/gui/Canvas.h"
 #include "tests/gui/ResourceModule.h"
 
-#include <cstring>
+#include <array>
 
 #include <gtest/gtest.h>
 
@@ -13,113 +14,101 @@ namespace Pelmora::Native
 namespace
 {
 
-constexpr COLORREF red = RGB(0xFF, 0, 0);
-constexpr COLORREF green = RGB(0, 0xFF, 0);
 constexpr int width = 5;
 constexpr int height = 3;
 constexpr Area whole = {0, 0, width, height};
 
-/// No picture with this pattern can be turned over unseen.
-bool isGreen(int x, int y)
+/// A picture in memory to draw on, at first of one colour.
+class Canvas
 {
-    return (x * x + 2 * y) % 5 < 2;
+public:
+    static constexpr int size = 40;
+
+    Canvas() { FillRect(dc(), &all, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH))); }
+
+    HDC dc() const { return dc_.get(); }
+
+    /// Whether the area has the colours that it should, and nothing else has changed.
+    template <class Colour>
+    void expect(const RECT& area, Colour colourAt) const
+    {
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x)
+                ASSERT_EQ(GetPixel(dc(), x, y),
+                          PtInRect(&area, {x, y}) != 0 ? colourAt(x, y) : RGB(128, 128, 128))
+                    << x << ' ' << y;
+    }
+
+private:
+    static constexpr RECT all = {0, 0, size, size};
+    static constexpr BITMAPINFO format = {
+        {sizeof(BITMAPINFOHEADER), size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+
+    Gdi::MemoryDc dc_;
+    Gdi::Object<HBITMAP> bitmap_{
+        CreateDIBSection(dc(), &format, DIB_RGB_COLORS, nullptr, nullptr, 0)};
+    Gdi::Selection selection_{dc(), bitmap_.get()};
+};
+
+/// Lines of black and white that cannot be turned over unseen, each of two bytes.
+constexpr std::uint8_t pattern[] = {0xB0, 0, 0x10, 0, 0xC8, 0};
+
+COLORREF patternAt(int x, int y)
+{
+    return (pattern[2 * y] << x & 0x80) != 0 ? RGB(255, 255, 255) : RGB(0, 0, 0);
 }
 
 /// The pattern as a bitmap resource.
-std::vector<std::byte> pattern(std::uint16_t bitCount, bool topDown, std::uint32_t coloursUsed = 0)
+std::vector<std::byte> picture(std::uint16_t bitCount, bool topDown)
 {
-    const std::size_t all = bitCount == 8 ? 256 : bitCount < 8 ? 16 : 0;
-    const std::size_t pixels = 40 + 4 * (coloursUsed != 0 ? coloursUsed : all);
-    const std::size_t line = (width * bitCount + 31U) / 32 * 4;
-    std::vector<std::byte> bytes(pixels + line * height);
-    const BITMAPINFOHEADER header = {
-        40, width, topDown ? -height : height, 1, bitCount, 0, 0, 0, 0, coloursUsed, 0};
-    const std::uint32_t table[] = {0xFF0000, 0x00FF00};
-    std::memcpy(bytes.data(), &header, sizeof header);
-    if (pixels > 40)
-        std::memcpy(&bytes[40], table, sizeof table);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const auto bit = static_cast<unsigned int>(x) * bitCount;
-            std::byte* const at =
-                &bytes[pixels + line * static_cast<unsigned int>(topDown ? y : height - 1 - y) +
-                       bit / 8];
-            const std::uint32_t index = isGreen(x, y) ? 1 : 0;
-            const std::uint32_t colour =
-                bitCount == 16 ? (isGreen(x, y) ? 0x03E0U : 0x7C00U) : table[index];
-            if (bitCount <= 8)
-                *at |= static_cast<std::byte>(index << (8U - bitCount - bit % 8));
-            else
-                std::memcpy(at, &colour, bitCount / 8U);
-        }
-    }
+    const std::size_t pixels = 40 + (bitCount == 8 ? 1024 : bitCount < 8 ? 64 : 0);
+    std::vector<std::byte> bytes(pixels + (width * bitCount + 31U) / 32 * 4 * height);
+    auto* const information = reinterpret_cast<BITMAPINFO*>(bytes.data());
+    information->bmiHeader = {40, width, topDown ? -height : height, 1, bitCount, 0, 0, 0, 0, 0, 0};
+    const Gdi::Object<HBITMAP> bitmap(CreateBitmap(width, height, 1, 1, pattern));
+    GetDIBits(Gdi::MemoryDc().get(), bitmap.get(), 0, height, &bytes[pixels], information,
+              DIB_RGB_COLORS);
     return bytes;
-}
-
-/// Whether each pixel of the pattern is there as a square so many pixels wide, and nothing else.
-void expectPattern(const Canvas& canvas, int left, int top, int zoom)
-{
-    const RECT expected = {left, top, left + width * zoom, top + height * zoom};
-    for (int y = 0; y < Canvas::size; ++y)
-        for (int x = 0; x < Canvas::size; ++x)
-            ASSERT_EQ(canvas.at(x, y), PtInRect(&expected, {x, y}) == 0 ? Canvas::paper
-                                       : isGreen((x - left) / zoom, (y - top) / zoom) ? green
-                                                                                      : red)
-                << x << ' ' << y;
 }
 
 TEST(Drawing, PicturesOfEveryDepth)
 {
-    ResourceModule::Resources resources = {{200, pattern(8, false, 2)}, {201, pattern(1, true, 2)}};
-    for (const unsigned int bitCount : {1, 4, 8, 16, 24, 32})
+    ResourceModule::Resources resources;
+    for (const auto bitCount : std::to_array<std::uint16_t>({1, 4, 8, 16, 24, 32}))
         for (const bool topDown : {false, true})
-            resources[static_cast<std::uint16_t>(bitCount + (topDown ? 100 : 0))] =
-                pattern(static_cast<std::uint16_t>(bitCount), topDown);
-    const ResourceModule module(2, resources);
-    const LogCapture log;
+            resources.emplace(bitCount * (topDown ? 10 : 1), picture(bitCount, topDown));
+    const ResourceModule module(RT_BITMAP, resources);
     for (const auto& [id, bytes] : resources) {
         for (const int zoom : {1, 3}) {
             SCOPED_TRACE(id);
             const Canvas canvas;
             SetStretchBltMode(canvas.dc(), HALFTONE);
-            const Area destination = {4, 2, width * zoom, height * zoom};
-            EXPECT_TRUE(showDib(canvas.dc(), id, destination, whole, module.get()));
+            const Area area = {4, 2, width * zoom, height * zoom};
+            EXPECT_TRUE(showDib(canvas.dc(), id, area, whole, module.get()));
             EXPECT_TRUE(showDib(canvas.dc(), id, {0, 0, 0, 0}, whole, module.get()));
-            expectPattern(canvas, 4, 2, zoom);
+            canvas.expect({4, 2, 4 + width * zoom, 2 + height * zoom},
+                          [&](int x, int y) { return patternAt((x - 4) / zoom, (y - 2) / zoom); });
             EXPECT_EQ(GetStretchBltMode(canvas.dc()), HALFTONE);
         }
     }
-    EXPECT_EQ(log.text(), "");
-}
-
-TEST(Drawing, ResourcesThatAreNoPictures)
-{
-    const ResourceModule module(2, {{1, std::vector<std::byte>(100)}});
-    const Canvas canvas;
-    for (const bool exists : {false, true}) {
-        const LogCapture log;
-        EXPECT_FALSE(showDib(canvas.dc(), exists ? 1 : 999, whole, whole, module.get()));
-        EXPECT_EQ(log.text(), "Utillib::showDib(..) resource error\n");
-    }
+    const LogCapture log;
+    EXPECT_FALSE(showDib(Canvas().dc(), 999, whole, whole, module.get()));
+    EXPECT_EQ(log.text(), "Utillib::showDib(..) resource error\n");
 }
 
 TEST(Drawing, SolidRectangles)
 {
     const std::pair<RECT, RECT> rows[] = {
-        {{10, 10, 20, 20}, {9, 9, 20, 20}},
+        // what is asked for and what is painted
         {{3, 5, 6, 8}, {2, 4, 6, 8}},
         {{10, 10, 12, 40}, {}},
         {{10, 10, 30, 12}, {}},
-        {{20, 20, 10, 10}, {}},
     };
     for (const auto& [asked, painted] : rows) {
+        constexpr COLORREF red = RGB(255, 0, 0);
         const Canvas canvas;
-        const HGDIOBJ brush = GetCurrentObject(canvas.dc(), OBJ_BRUSH);
         drawSolidRect(canvas.dc(), asked.left, asked.top, asked.right, asked.bottom, red);
-        for (int y = 0; y < Canvas::size; ++y)
-            for (int x = 0; x < Canvas::size; ++x)
-                ASSERT_EQ(canvas.at(x, y), PtInRect(&painted, {x, y}) != 0 ? red : Canvas::paper);
-        EXPECT_EQ(GetCurrentObject(canvas.dc(), OBJ_BRUSH), brush);
+        canvas.expect(painted, [](int, int) { return red; });
     }
 }
 

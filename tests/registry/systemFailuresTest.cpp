@@ -4,9 +4,9 @@
 
 #include "pelmora/registry/systemErrorText.h"
 
-#include <cstdio>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -15,14 +15,13 @@ namespace
 
 bool deniesWriting = false;
 int closed = 0;
-std::string calls; ///< what opening asked for
+constexpr REGSAM creates = 0x80000000; ///< beside the access that creating asks for
+std::vector<REGSAM> calls;             ///< what opening asked for
 
-LSTATUS answer(const char* function, REGSAM access, HKEY* key)
+LSTATUS answer(REGSAM asked, HKEY* key)
 {
-    char text[32];
-    std::snprintf(text, sizeof text, "%s %lX,", function, access);
-    calls += text;
-    if (deniesWriting && (access & KEY_SET_VALUE) != 0)
+    calls.push_back(asked);
+    if (deniesWriting && (asked & KEY_SET_VALUE) != 0)
         return ERROR_ACCESS_DENIED;
     *key = reinterpret_cast<HKEY>(1);
     return ERROR_SUCCESS;
@@ -30,13 +29,13 @@ LSTATUS answer(const char* function, REGSAM access, HKEY* key)
 
 LSTATUS WINAPI openKey(HKEY, const char*, DWORD, REGSAM access, HKEY* key)
 {
-    return answer("open", access, key);
+    return answer(access, key);
 }
 
 LSTATUS WINAPI createKey(HKEY, const char*, DWORD, char*, DWORD, REGSAM access,
                          SECURITY_ATTRIBUTES*, HKEY* key, DWORD*)
 {
-    return answer("create", access, key);
+    return answer(creates | access, key);
 }
 
 LSTATUS WINAPI closeKey(HKEY)
@@ -71,13 +70,13 @@ namespace
 TEST(RegistryFailures, ModesAskForTheirAccess)
 {
     using enum OpenMode;
-    const std::tuple<OpenMode, const char*, const char*> rows[] = {
+    constexpr REGSAM both = KEY_READ | KEY_WRITE;
+    const std::tuple<OpenMode, std::vector<REGSAM>, std::vector<REGSAM>> rows[] = {
         // mode, calls when everything is allowed, calls when writing is denied
-        {Create | Write, "create 20006,", "create 20006,"},
-        {Read | Write, "open 2001F,", "open 2001F,"},
-        {AllAccess, "open F003F,", "open F003F,"},
-        {Read | WriteOrRead | Create, "create 2001F,", "create 2001F,create 20019,"},
-        {WriteOrRead | AllAccess, "open 20006,", "open 20006,open 20019,"},
+        {Create | Write, {creates | KEY_WRITE}, {creates | KEY_WRITE}},
+        {AllAccess, {KEY_ALL_ACCESS}, {KEY_ALL_ACCESS}},
+        {Read | WriteOrRead | Create, {creates | both}, {creates | both, creates | KEY_READ}},
+        {WriteOrRead | AllAccess, {KEY_WRITE}, {KEY_WRITE, KEY_READ}},
     };
     for (const auto& [mode, allowed, denied] : rows) {
         for (const bool denies : {false, true}) {
@@ -87,7 +86,6 @@ TEST(RegistryFailures, ModesAskForTheirAccess)
             EXPECT_EQ(calls, denies ? denied : allowed);
         }
     }
-    deniesWriting = false;
 }
 
 TEST(RegistryFailures, AHandleIsClosedOnceAndAChangingValueIsNotRead)
