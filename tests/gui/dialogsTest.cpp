@@ -175,6 +175,50 @@ Bytes otherParts(const DialogTemplate& dialog)
     return bytes;
 }
 
+/// Where the template puts each control, in dialog units.
+std::vector<RECT> placesOf(const Bytes& bytes)
+{
+    const DialogParts parts = dialogParts(bytes).value();
+    const auto word = [&](std::size_t at) { return readNumber<std::int16_t>(bytes, at); };
+    const auto behindText = [&](std::size_t at) {
+        for (; word(at) != 0 && word(at) != -1; at += 2) {
+        }
+        return at + (word(at) == 0 ? 2 : 4);
+    };
+    std::vector<RECT> places;
+    for (std::size_t at = parts.items; places.size() < parts.itemCount;) {
+        at = alignedTo4(at) + parts.layout->itemHeaderSize;
+        const std::size_t corner = at - (parts.layout->extended ? 12 : 10);
+        places.push_back({word(corner), word(corner + 2), 0, 0});
+        at = behindText(behindText(at));
+        at += parts.layout->extended ? 2 + word(at) : std::max<int>(word(at), 2);
+    }
+    return places;
+}
+
+void expectLook(HWND window)
+{
+    LOGFONTW font = {};
+    const LRESULT handle = SendMessageW(window, WM_GETFONT, 0, 0);
+    if (GetObjectW(reinterpret_cast<HFONT>(handle), sizeof font, &font) == 0)
+        return; // a control that takes none
+    EXPECT_STREQ(font.lfFaceName, L"Liberation Sans");
+    EXPECT_EQ(font.lfHeight, -12); // 9 points at 96 dots an inch
+}
+
+void expectPlace(HWND dialog, HWND control, RECT units)
+{
+    char className[30] = {};
+    GetClassNameA(control, className, sizeof className);
+    RECT frame = {};
+    GetWindowRect(control, &frame);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&frame), 2);
+    MapDialogRect(dialog, &units);
+    if (std::string(className) != UPDOWN_CLASSA) { // which goes beside its buddy
+        EXPECT_EQ(std::pair(frame.left, frame.top), std::pair(units.left, units.top));
+    }
+}
+
 /// Changes caption and font; whether the system makes a window of it. It knows not every class.
 bool isMadeAsAsked(DialogTemplate dialog, HWND parent)
 {
@@ -191,11 +235,17 @@ bool isMadeAsAsked(DialogTemplate dialog, HWND parent)
     wchar_t title[40] = {};
     GetWindowTextW(window, title, 40);
     EXPECT_STREQ(title, L"Bedside \u00E9 \u3042");
-    LOGFONTW font = {};
-    const LRESULT handle = SendMessageW(window, WM_GETFONT, 0, 0);
-    GetObjectW(reinterpret_cast<HFONT>(handle), sizeof font, &font);
-    EXPECT_STREQ(font.lfFaceName, L"Liberation Sans");
-    EXPECT_EQ(font.lfHeight, -12); // 9 points at 96 dots an inch
+    expectLook(window);
+    std::vector<HWND> controls;
+    for (HWND control = GetTopWindow(window); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT))
+        controls.push_back(control);
+    const std::vector<RECT> places = placesOf(bytes);
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        expectLook(controls[i]);
+        if (controls.size() == places.size())
+            expectPlace(window, controls[i], places[i]);
+    }
     DestroyWindow(window);
     return true;
 }

@@ -73,6 +73,9 @@ TEST(DibLayout, HeadersThatAreRefused)
     };
     for (const Fields& fields : rows)
         EXPECT_EQ(dibPixelOffset(resource(fields, 100'000)), std::nullopt) << fields.bitCount;
+    const Fields cutMasks = {
+        .headerSize = 44, .width = 1, .height = 1, .bitCount = 16, .compression = 3};
+    EXPECT_EQ(dibPixelOffset(resource(cutMasks, 48)), std::nullopt);
 }
 
 } // namespace
