@@ -41,7 +41,8 @@ PELMORA_API bool regiDeleteKey(HKEY root, const std::string& path, bool log = fa
 PELMORA_API bool regiDeleteKey(HKEY root, const GString& path, bool log = false);
 
 /// A text in place of `log` is one text too many, and would delete more than was meant.
-template <class Path, class Log>
-requires(!std::same_as<Log, bool>) bool regiDeleteKey(HKEY, const Path&, Log) = delete;
+template <class Path, class Text>
+requires(std::convertible_to<Text, std::string> ||
+         std::convertible_to<Text, GString>) bool regiDeleteKey(HKEY, const Path&, Text) = delete;
 
 } // namespace Pelmora::Native
