@@ -122,8 +122,7 @@ bool exists(const std::string& face, BYTE charset, HDC dc)
     wanted.lfCharSet = charset;
     return withDc<MemoryDc>(dc, [&wanted](HDC used) {
         bool found = false;
-        EnumFontFamiliesExA(used, &wanted, noteFound, reinterpret_cast<LPARAM>(&found),
-                            0); // NOLINT: as above
+        EnumFontFamiliesExA(used, &wanted, noteFound, reinterpret_cast<LPARAM>(&found), 0);
         return found;
     });
 }

@@ -21,13 +21,13 @@ bool hasFocus(HWND control)
 /// The next control in tab order that is not within this one; null when there is none.
 HWND nextControl(HWND control)
 {
+    constexpr int mostSteps = 1000; // the order may turn in circles within the control
     const HWND parent = GetParent(control);
-    const HWND first = GetNextDlgTabItem(parent, control, FALSE);
-    HWND next = first;
-    while (next != nullptr && IsChild(control, next) != 0) {
-        next = GetNextDlgTabItem(parent, next, FALSE);
-        if (next == first)
+    HWND next = GetNextDlgTabItem(parent, control, FALSE);
+    for (int step = 0; next != nullptr && IsChild(control, next) != 0; ++step) {
+        if (step == mostSteps)
             return nullptr;
+        next = GetNextDlgTabItem(parent, next, FALSE);
     }
     return next == control ? nullptr : next;
 }

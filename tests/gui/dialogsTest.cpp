@@ -115,6 +115,7 @@ TEST(Dialogs, RunUntilTheyEnd)
             wchar_t title[20] = {};
             GetWindowTextW(dialog.window(), title, 20);
             EXPECT_STREQ(title, L"Bed \u3042");
+            PostMessageW(dialog.window(), WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_SETFOCUS), 0);
             PostMessageW(dialog.window(), sent, IDOK, 0);
         };
         EXPECT_EQ(dialog.run(plain, nullptr), result);
