@@ -6,31 +6,41 @@
  *
  * CONVENTIONS. They hold for every function; what a function adds to them stands with it.
  *
- * Status.    Each function returns a pelmora_status, except pelmora_version, pelmora_abi,
- *            pelmora_last_error and the pelmora_..._destroy functions. Any status but PELMORA_OK
- *            leaves a message for the thread that called; see pelmora_last_error.
- * Results.   They come through pointers, which are the last parameters. After a failure every
- *            result is 0, null or an empty text, unless the function says otherwise. A truth value
- *            is an int, 0 or 1.
- * Null.      A pointer may be null only where the function says so, and in three places without
- *            saying: the `length` or `count` of a result, a buffer whose capacity is 0, and an
- * array or a block of 0 elements. Any other null gives PELMORA_NULL_ARGUMENT and a message that
- * names the parameter; nothing has happened then. Texts in.  UTF-16 (const pelmora_char16*) or
- * narrow text (const char*), which is in the ANSI code page unless the function says otherwise; on
- * Linux that is 1252. They end in a NUL. A text that may hold NULs itself comes with its length in
- * units or bytes, which may be PELMORA_NUL_TERMINATED. Texts out. They go to the caller's buffer,
- * with a NUL at their end; `capacity` counts its units with that NUL, and `length` is set to those
- * of the whole text without it. A buffer that is too small gets an empty text, never a part of one,
- * because a dose that is cut short reads as another dose: the status is PELMORA_BUFFER_TOO_SMALL,
- * and `length` says what is needed. A null buffer with the capacity 0 asks for the length alone,
- * which is no failure. Lists of elements and blocks of bytes work the same way, without a NUL.
- * Memory.    Nothing that one side allocates is freed by the other. What has a life is a handle:
- *            it is made by a ..._create, belongs to the caller, and ends with its ..._destroy,
- * which takes null. One thread at a time uses a handle, unless its group says more. Callbacks. A
- * function and a `context` that is handed to it, unread, as its last argument. A callback must
- * return; no exception may pass through this library. Threads.   Every function may be called by
- * several threads at once, each with its own data, unless its group says otherwise. Numbers.
- * Pixels, points, millimetres and milliseconds are named where they occur. A number of an
+ * STATUS. Each function returns a pelmora_status, except pelmora_version, pelmora_abi,
+ * pelmora_last_error and the pelmora_..._destroy functions. Any status but PELMORA_OK leaves a
+ * message for the thread that called; see pelmora_last_error.
+ *
+ * RESULTS come through pointers, which are the last parameters. After a failure every result is 0,
+ * null or an empty text, unless the function says otherwise. A truth value is an int, 0 or 1.
+ *
+ * NULL. A pointer may be null only where the function says so, and in three places without saying:
+ * the `length`, `count` or `size` of a result, a buffer whose capacity is 0, and an array, a block
+ * or a text whose count or length of 0 is given with it. Any other null gives
+ * PELMORA_NULL_ARGUMENT and a message that names the parameter; nothing has happened then.
+ *
+ * TEXTS IN are UTF-16 (const pelmora_char16*) or narrow (const char*), which is in the ANSI code
+ * page unless the function says otherwise; on Linux that is 1252. They end in a NUL. A text that
+ * may hold NULs itself comes with its length in units or bytes, which may be
+ * PELMORA_NUL_TERMINATED.
+ *
+ * TEXTS OUT go to the caller's buffer, with a NUL at their end; `capacity` counts its units with
+ * that NUL, and `length` is set to those of the whole text without it. A buffer that is too small
+ * gets an empty text, never a part of one, because a dose that is cut short reads as another dose:
+ * the status is PELMORA_BUFFER_TOO_SMALL, and `length` says what is needed. The capacity 0 asks for
+ * the length alone, which is no failure. Lists of elements and blocks of bytes work the same way,
+ * without a NUL; `count` or `size` is their length.
+ *
+ * MEMORY. Nothing that one side allocates is freed by the other. What has a life is a handle: it is
+ * made by a ..._create or ..._load, belongs to the caller, and ends with its ..._destroy, which
+ * takes null. One thread at a time uses a handle, unless its group says more.
+ *
+ * CALLBACKS are a function and a `context`, which may be null and is handed to it, unread, as its
+ * last argument. A callback must return: no exception may pass through this library.
+ *
+ * THREADS. Every function may be called by several threads at once, each with its own data, unless
+ * its group says otherwise.
+ *
+ * NUMBERS. Pixels, points, millimetres and milliseconds are named where they occur. A number of an
  * enumeration that has no name is treated as its group says, never refused unseen.
  */
 
@@ -432,12 +442,11 @@ pelmora_status PELMORA_CALL pelmora_language_init_from_culture(void);
 
 /* Where translations come from: writes the text for `msgid` with its NUL to the buffer and returns
  * its length without it, 0 for none. A length that the buffer does not hold makes the library ask
- * again with a larger one. */
+ * once more with one that does. */
 typedef size_t(PELMORA_CALL* pelmora_translator)(const char* msgid, pelmora_char16* buffer,
                                                  size_t capacity, void* context);
 
-/* Installs a translator; null removes it. Without one, nothing is translated. `context` may be
- * null. */
+/* Installs a translator; null removes it. Without one, nothing is translated. */
 pelmora_status PELMORA_CALL pelmora_language_set_translator(pelmora_translator translator,
                                                             void* context);
 
@@ -466,8 +475,7 @@ pelmora_status PELMORA_CALL pelmora_language_id(uint32_t* identifier);
 /* The PO text of the language's catalogue; PELMORA_NOT_FOUND without one. */
 pelmora_status PELMORA_CALL pelmora_language_dump(char* buffer, size_t capacity, size_t* length);
 
-/* ---- Markup
- * ------------------------------------------------------------------------------------*/
+/* ---- Markup --------------------------------------------------------------------------------*/
 
 /* & > " ' < as &amp; &gt; &quot; &apos; &lt;, and back, once. */
 pelmora_status PELMORA_CALL pelmora_escape(const pelmora_char16* text, size_t text_length,
@@ -544,17 +552,17 @@ pelmora_status PELMORA_CALL pelmora_os_description(uint32_t platform, uint32_t m
                                                    const char* service_pack, char* buffer,
                                                    size_t capacity, size_t* length);
 
-/* ---- XML
- * ---------------------------------------------------------------------------------------*/
+/* ---- XML -----------------------------------------------------------------------------------*/
 
 typedef struct pelmora_xml pelmora_xml;
 
-/* Without a document. PELMORA_SYSTEM where the system has no XML parser. */
+/* Without a document. */
 pelmora_status PELMORA_CALL pelmora_xml_create(pelmora_xml** xml);
 void PELMORA_CALL pelmora_xml_destroy(pelmora_xml* xml);
 
 /* Parse a document in place of the one before, which is gone in any case. PELMORA_MALFORMED when it
- * is not well-formed, nested more than 256 deep, or has entities that grow out of proportion. */
+ * is not well-formed, nested more than 256 deep, or has entities that grow out of proportion;
+ * PELMORA_SYSTEM where the system has no XML parser. */
 pelmora_status PELMORA_CALL pelmora_xml_parse_text(pelmora_xml* xml, const pelmora_char16* text);
 
 /* An empty name is PELMORA_BAD_ARGUMENT and leaves the document as it was; a file that cannot be
@@ -584,8 +592,7 @@ pelmora_status PELMORA_CALL pelmora_xml_element(const pelmora_xml* xml, const pe
                                                 pelmora_char16* buffer, size_t capacity,
                                                 size_t* length);
 
-/* ---- Download
- * ----------------------------------------------------------------------------------*/
+/* ---- Download ------------------------------------------------------------------------------*/
 
 /* Downloads what an "http" or "https" address leads to, and only then replaces the file by it.
  * `milliseconds` is for the whole download, -1 for no limit. `user` and `password` may be null;
@@ -613,7 +620,8 @@ pelmora_status PELMORA_CALL pelmora_dialog_template_bytes(const pelmora_dialog_t
 pelmora_status PELMORA_CALL pelmora_dialog_template_caption(const pelmora_dialog_template* dialog,
                                                             pelmora_char16* buffer, size_t capacity,
                                                             size_t* length);
-/* Up to 255 units. A caption that grows by more than 512 bytes changes nothing. */
+/* The first 255 units. PELMORA_BAD_ARGUMENT, and nothing changed, for a caption that would grow by
+ * more than 512 bytes. */
 pelmora_status PELMORA_CALL pelmora_dialog_template_set_caption(pelmora_dialog_template* dialog,
                                                                 const pelmora_char16* caption);
 
@@ -755,8 +763,7 @@ pelmora_status PELMORA_CALL pelmora_decipoints_to_height(int32_t decipoints, voi
 pelmora_status PELMORA_CALL pelmora_height_to_decipoints(int32_t height, void* dc,
                                                          int32_t* decipoints);
 
-/* ---- Monitors
- * -----------------------------------------------------------------------------------*/
+/* ---- Monitors ------------------------------------------------------------------------------*/
 
 /* Screen pixels, right and bottom exclusive: a RECT. 16 bytes. */
 typedef struct pelmora_rectangle {
@@ -778,8 +785,7 @@ pelmora_status PELMORA_CALL pelmora_monitor_pixels_per_cm(void* window, int32_t*
 pelmora_status PELMORA_CALL pelmora_monitor_identifier(void* window, char* buffer, size_t capacity,
                                                        size_t* length);
 
-/* ---- Drawing
- * ------------------------------------------------------------------------------------*/
+/* ---- Drawing -------------------------------------------------------------------------------*/
 
 /* A corner and a size, in logical units or in pixels of a picture. 16 bytes. */
 typedef struct pelmora_area {
@@ -802,8 +808,7 @@ pelmora_status PELMORA_CALL pelmora_show_dib(void* dc, const void* information, 
 pelmora_status PELMORA_CALL pelmora_draw_solid_rect(void* dc, int32_t left, int32_t top,
                                                     int32_t right, int32_t bottom, uint32_t colour);
 
-/* ---- Date, time, files
- * --------------------------------------------------------------------------*/
+/* ---- Date, time, files ---------------------------------------------------------------------*/
 
 /* As the user's region writes them, in that region's code page. */
 pelmora_status PELMORA_CALL pelmora_current_date_text(int long_format, char* buffer,
