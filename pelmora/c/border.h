@@ -5,7 +5,10 @@
 #include "pelmora/platform/forcedUnwind.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string_view>
 
@@ -48,24 +51,30 @@ std::basic_string_view<Char> requiredText(const Char* first, const char* paramet
     return requiredText(first, PELMORA_NUL_TERMINATED, parameter);
 }
 
-/// A result of fixed size in the caller's memory.
+/// A result of fixed size in the caller's memory; one that nobody need want has no name.
 template <class T>
 class Result
 {
 public:
     Result(T* place, const char* parameter) : place_(place), parameter_(parameter) {}
 
-    void check() const { required(place_, parameter_); }
+    void check() const
+    {
+        if (parameter_ != nullptr)
+            required(place_, parameter_);
+    }
     void clear() const
     {
         if (place_ != nullptr)
-            *place_ = T{};
+            *place_ = std::bit_cast<T>(std::array<std::byte, sizeof(T)>());
     }
 
 private:
     T* place_;
     const char* parameter_;
 };
+
+constexpr const char* optional = nullptr;
 
 /// A result of variable length in the caller's buffer, where a text ends in a NUL.
 template <class T, bool isText>
@@ -80,8 +89,8 @@ public:
     void check() const { required(first_, capacity_, "buffer"); }
     void clear() const
     {
-        if (isText && first_ != nullptr && capacity_ > 0)
-            *first_ = T{};
+        if (first_ != nullptr && capacity_ > 0)
+            end(first_);
         if (length_ != nullptr)
             *length_ = missing_;
     }
@@ -94,9 +103,7 @@ public:
             return fail(PELMORA_BUFFER_TOO_SMALL, "'buffer' is too small for the result");
         }
         if (capacity_ > 0) {
-            std::copy_n(elements.data(), elements.size(), first_);
-            if (isText)
-                first_[elements.size()] = T{};
+            end(std::copy_n(elements.data(), elements.size(), first_));
         }
         if (length_ != nullptr)
             *length_ = elements.size();
@@ -104,6 +111,12 @@ public:
     }
 
 private:
+    static void end(T* place)
+    {
+        if constexpr (isText)
+            *place = T{};
+    }
+
     T* first_;
     std::size_t capacity_;
     std::size_t* length_;
@@ -157,6 +170,13 @@ pelmora_status giveText(Char* buffer, std::size_t capacity, std::size_t* length,
             return result.put(std::basic_string_view<Char>(whole));
         },
         result);
+}
+
+/// The handle that `work` makes as the one result.
+template <class Handle, class Work>
+pelmora_status giveHandle(Handle** place, const char* parameter, const Work& work)
+{
+    return give(place, parameter, [&] { return work().release(); });
 }
 
 } // namespace Pelmora::C

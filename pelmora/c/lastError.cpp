@@ -85,6 +85,8 @@ pelmora_status failByException() noexcept
             end = std::copy_n(part.begin(), std::min<std::size_t>(part.size(), text.end() - end),
                               end);
         return fail(PELMORA_NULL_ARGUMENT, {text.begin(), end});
+    } catch (const Failure& error) {
+        return fail(error.status, error.message);
     } catch (const std::bad_alloc&) {
         return fail(PELMORA_OUT_OF_MEMORY, "out of memory");
     } catch (const std::length_error&) {

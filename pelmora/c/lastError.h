@@ -35,4 +35,10 @@ struct NullArgument {
     const char* parameter;
 };
 
+/// What a function ends with that cannot give its result.
+struct Failure {
+    pelmora_status status;
+    const char* message;
+};
+
 } // namespace Pelmora::C
