@@ -8,7 +8,7 @@
 #include "orderControls.h"
 #include "windowText.h"
 
-#include "infusions/translation.h"
+#include "translation/translation.h"
 
 #include "pelmora/formatter/Formatter.h"
 #include "pelmora/gui/dateTime.h"
@@ -22,9 +22,9 @@ namespace Bedside
 namespace
 {
 
-using Infusions::tr;
 using Pelmora::GString;
 using Pelmora::Native::Font;
+using Translation::tr;
 namespace Native = Pelmora::Native;
 
 constexpr double patientKg = 70;
@@ -44,13 +44,13 @@ int heightOf(HWND control)
     return static_cast<int>(area.bottom);
 }
 
-GString faceOf(HWND control)
+LOGFONTW fontOf(HWND control)
 {
     LOGFONTW look = {};
     const auto font =
         reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)); // NOLINT: a handle
     GetObjectW(font, sizeof look, &look);
-    return look.lfFaceName;
+    return look;
 }
 
 /// In which the system's narrow functions write dates and times.
@@ -61,16 +61,6 @@ UINT codePageOfRegion()
                    reinterpret_cast<wchar_t*>(&codePage), // NOLINT: the flag makes it a number
                    sizeof codePage / sizeof(wchar_t));
     return codePage;
-}
-
-/// Puts one button into the place of another in sight, tab order and focus.
-void exchange(HWND shown, HWND hidden)
-{
-    constexpr UINT orderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
-    // Where a hidden control's focus goes is the next one in tab order.
-    SetWindowPos(hidden, shown, 0, 0, 0, 0, orderOnly);
-    Native::showControl(hidden, true);
-    Native::showControl(shown, false);
 }
 
 /// What a control's colour message is answered with.
@@ -123,10 +113,9 @@ INT_PTR BedsideDialog::handleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 void BedsideDialog::begin()
 {
     constexpr UINT everySecond = 1000;
-    constexpr int nameDecipoints = 90;
-    emphasise(control(ID_PATIENT_NAME), nameFont_, faceOf(window()),
-              Native::FontUtil::decipointsToHeight(nameDecipoints));
-    emphasise(control(ID_RATE), rateFont_, u"Arial", -heightOf(control(ID_RATE)) / 2);
+    const LOGFONTW font = fontOf(window());
+    emphasise(control(ID_PATIENT_NAME), nameFont_, font.lfFaceName, MulDiv(font.lfHeight, 9, 8));
+    emphasise(control(ID_RATE), rateFont_, font.lfFaceName, -heightOf(control(ID_RATE)) / 2);
     showDialogTexts(window(), patientKg);
     fillOrderControls(window(), patientKg);
     for (const Panel& panel : panels())
@@ -168,7 +157,9 @@ void BedsideDialog::answer()
     showText(window(), ID_ERROR, answer.error);
     showText(window(), ID_GIVEN, noResult());
     showText(window(), ID_LASTS, infusion_ ? infusion_->lastsAfter({}) : noResult());
-    enableOrderControls(window(), true);
+    showText(window(), ID_START, tr("Start"));
+    showText(window(), ID_PUMP_GROUP, tr("Infusion pump: stopped"));
+    enableWeight(window());
     Native::enableControl(control(ID_START), infusion_.has_value());
 }
 
@@ -176,9 +167,13 @@ void BedsideDialog::start()
 {
     if (!infusion_ || started_)
         return;
+    if (isEmpty()) {
+        answer(); // the same order, and a new bag
+        return;
+    }
     started_ = Clock::now();
-    exchange(control(ID_START), control(ID_STOP));
-    enableOrderControls(window(), false);
+    exchange(window(), ID_START, ID_STOP);
+    lockOrder(window(), true);
     showText(window(), ID_PUMP_GROUP, tr("Infusion pump: running"));
     InvalidateRect(control(ID_RATE), nullptr, TRUE); // in another colour
     showRunning();
@@ -191,15 +186,24 @@ void BedsideDialog::stop()
     ranBefore_ = ran();
     started_.reset();
     showRunning();
-    exchange(control(ID_STOP), control(ID_START));
-    enableOrderControls(window(), true);
+    exchange(window(), ID_STOP, ID_START);
+    lockOrder(window(), false);
     showText(window(), ID_PUMP_GROUP, tr("Infusion pump: stopped"));
+    if (isEmpty()) {
+        showText(window(), ID_RATE, tr("Bag empty"));
+        showText(window(), ID_START, tr("New bag"));
+    }
     InvalidateRect(control(ID_RATE), nullptr, TRUE); // in another colour
 }
 
 BedsideDialog::Clock::duration BedsideDialog::ran() const
 {
     return started_ ? ranBefore_ + (Clock::now() - *started_) : ranBefore_;
+}
+
+bool BedsideDialog::isEmpty() const
+{
+    return infusion_ && infusion_->isEmptyAfter(ran());
 }
 
 void BedsideDialog::showRunning()
@@ -213,7 +217,11 @@ void BedsideDialog::tick()
 {
     const std::string now = Native::currentDateText(true) + "  " + Native::currentTimeText(true);
     showText(window(), ID_CLOCK, GString(now, codePageOfRegion()));
-    if (started_)
+    if (!started_)
+        return;
+    if (isEmpty())
+        stop();
+    else
         showRunning();
 }
 
@@ -243,13 +251,15 @@ INT_PTR BedsideDialog::draw(const DRAWITEMSTRUCT& item) const
 
 INT_PTR BedsideDialog::colour(HDC dc, HWND shown) const
 {
-    constexpr COLORREF errorRed = RGB(190, 20, 20);
+    constexpr COLORREF alarmRed = RGB(190, 20, 20);
     constexpr COLORREF stoppedBlue = RGB(12, 64, 120);
     constexpr COLORREF runningGreen = RGB(0, 112, 60);
     switch (GetDlgCtrlID(shown)) {
     case ID_ERROR:
-        return inColours(dc, errorRed, COLOR_BTNFACE);
+        return inColours(dc, alarmRed, COLOR_BTNFACE);
     case ID_RATE:
+        if (isEmpty())
+            return inColours(dc, alarmRed, COLOR_WINDOW);
         return inColours(dc, started_ ? runningGreen : stoppedBlue, COLOR_WINDOW);
     default:
         return FALSE;

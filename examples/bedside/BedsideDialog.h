@@ -36,6 +36,7 @@ private:
     void start();
     void stop();
     Clock::duration ran() const;
+    bool isEmpty() const;
     void showRunning();
     void showPanel();
     void openLink(const NMHDR& notification) const;

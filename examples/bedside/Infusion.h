@@ -9,14 +9,15 @@ namespace Bedside
 
 /// A bag that a pump empties at a steady rate, in mL/hr and mL.
 struct Infusion {
-    Pelmora::UnitValue rate;
+    Pelmora::UnitValue rate; ///< as the pump is set
     Pelmora::UnitValue volume;
 
     /// What the patient has got after some time, in mL: never more than the bag held.
     Pelmora::UnitValue givenAfter(std::chrono::duration<double> elapsed) const;
 
-    /// How long the rest of the bag lasts: "18.9 hr", below two hours "95.2 min", or that there is
-    /// no rest.
+    bool isEmptyAfter(std::chrono::duration<double> elapsed) const;
+
+    /// How long the rest of the bag lasts, "19 hr 5 min", or that there is no rest.
     Pelmora::GString lastsAfter(std::chrono::duration<double> elapsed) const;
 };
 

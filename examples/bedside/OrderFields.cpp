@@ -1,10 +1,10 @@
 #include "OrderFields.h"
 
 #include "numberField.h"
-#include "units.h"
 
 #include "infusions/Order.h"
 #include "infusions/fieldTexts.h"
+#include "infusions/pump.h"
 #include "infusions/quantity.h"
 
 namespace Bedside
@@ -16,11 +16,9 @@ using Infusions::FieldTexts;
 using Infusions::Grams;
 using Infusions::Order;
 using Infusions::OrderError;
-using Infusions::tr;
 using Pelmora::GString;
 using Pelmora::UnitValue;
-
-constexpr int significantDigits = 3;
+using Translation::tr;
 
 UnitValue readField(const FieldTexts& texts, const GString& number, const std::string& unit,
                     Grams grams = Grams::ofDrug)
@@ -44,18 +42,6 @@ Order readOrder(const OrderFields& fields)
     order.amount = readField(Infusions::amountTexts, fields.amount, fields.amountUnit);
     order.volume = readField(Infusions::volumeTexts, fields.volume, "mL");
     return order;
-}
-
-/// Throws OrderError for a rate, in mL/hr, that no infusion pump runs at.
-void checkRate(const UnitValue& rate)
-{
-    const UnitValue slowest(0.1, millilitrePerHour());
-    const UnitValue fastest(1200, millilitrePerHour());
-    if (rate.value >= slowest.value && rate.value <= fastest.value)
-        return;
-    throw OrderError(GString::format(tr("a pump cannot run at %s, only at %s to %s"),
-                                     rate.toNormalizedString(significantDigits),
-                                     slowest.ToString(1), fastest.ToString(0)));
 }
 
 /// The reasons are written to stand behind a colon.
@@ -82,10 +68,9 @@ OrderAnswer answerOrder(const OrderFields& fields)
     try {
         const Order order = readOrder(fields);
         const UnitValue rate = Infusions::pumpRate(order);
-        checkRate(rate);
-        return {order.dose.toNormalizedString(significantDigits),
-                Infusions::concentration(order).toNormalizedString(significantDigits),
-                rate.toNormalizedString(significantDigits),
+        return {Infusions::quantityText(order.dose),
+                Infusions::quantityText(Infusions::concentration(order)),
+                Infusions::pumpText(rate),
                 {},
                 Infusion{rate, order.volume}};
     } catch (const OrderError& error) {

@@ -28,6 +28,10 @@
 #define ID_VOLUME         123
 #define ID_VOLUME_UNIT    124
 #define ID_ERROR          125
+/* What the lists above show, while the order cannot be changed. */
+#define ID_DRUG_SET        126
+#define ID_DOSE_UNIT_SET   127
+#define ID_AMOUNT_UNIT_SET 128
 
 #define ID_PUMP_GROUP     130
 #define ID_RATE_LABEL     131

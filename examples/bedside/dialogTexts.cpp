@@ -1,10 +1,10 @@
 #include "dialogTexts.h"
 
 #include "controls.h"
-#include "units.h"
 #include "windowText.h"
 
-#include "infusions/translation.h"
+#include "infusions/units.h"
+#include "translation/translation.h"
 
 #include "pelmora/formatter/Formatter.h"
 #include "pelmora/gui/textUtil.h"
@@ -15,9 +15,9 @@ namespace Bedside
 namespace
 {
 
-using Infusions::N_;
-using Infusions::tr;
 using Pelmora::GString;
+using Translation::N_;
+using Translation::tr;
 namespace Native = Pelmora::Native;
 
 struct ControlText {
@@ -67,12 +67,12 @@ void showDialogTexts(HWND dialog, double patientKg)
     SetWindowTextW(dialog, tr("Bedside").to_w_str());
     for (const ControlText& row : controlTexts)
         showText(dialog, row.control, tr(row.text));
-    const Pelmora::UnitValue weight(patientKg, kilogramOfPatient());
+    const Pelmora::UnitValue weight(patientKg, Infusions::kilogramOfPatient());
     showText(dialog, ID_PATIENT_NAME, u"Anna Berg");
     showText(dialog, ID_PATIENT_NOTE,
              GString::format(tr("%d years, %s"), patientYears, weight.ToString(0)));
     showText(dialog, ID_WEIGHT_UNIT, weight.unit->ToString());
-    showText(dialog, ID_VOLUME_UNIT, millilitre()->ToString());
+    showText(dialog, ID_VOLUME_UNIT, Infusions::millilitre()->ToString());
     showText(dialog, ID_LINK, logLink());
 }
 

@@ -2,7 +2,7 @@
 
 #include "controls.h"
 
-#include "infusions/translation.h"
+#include "translation/translation.h"
 
 #include "pelmora/gui/FontUtil.h"
 #include "pelmora/gui/drawing.h"
@@ -16,8 +16,8 @@ namespace Bedside
 namespace
 {
 
-using Infusions::tr;
 using Pelmora::GString;
+using Translation::tr;
 namespace Native = Pelmora::Native;
 
 constexpr COLORREF ink = RGB(60, 66, 74);
@@ -102,8 +102,8 @@ void drawRuler(HDC dc, const RECT& area, HWND window)
     constexpr int decipoints = 70;
     const RECT inside = drawCard(dc, area);
     Native::Font font;
-    Native::FontUtil::create(font, "Tahoma", Native::FontUtil::decipointsToHeight(decipoints, dc),
-                             false, false);
+    Native::FontUtil::create(font, "MS Shell Dlg",
+                             Native::FontUtil::decipointsToHeight(decipoints, dc), false, false);
     const WithFont selected(dc, font.get());
     if (const int pixelsPerCm = Native::getMonitorPixelsPerCm(window); pixelsPerCm > 0) {
         drawCentimetres(dc, inside, pixelsPerCm);

@@ -1,8 +1,7 @@
 #include "labValues.h"
 
-#include "units.h"
-
-#include "infusions/translation.h"
+#include "infusions/units.h"
+#include "translation/translation.h"
 
 #include <memory>
 
@@ -11,14 +10,16 @@ namespace Bedside
 namespace
 {
 
-using Infusions::N_;
-using Infusions::tr;
+using Infusions::makeUnit;
 using Pelmora::BloodLab;
+using Pelmora::GString;
 using Pelmora::Unit;
 using Pelmora::UnitPrefix;
 using Pelmora::UnitTypeEnum;
 using Pelmora::UnitValue;
 using Pelmora::VenousPanels;
+using Translation::N_;
+using Translation::tr;
 using enum UnitPrefix;
 using enum UnitTypeEnum;
 using enum BloodLab;
@@ -44,12 +45,14 @@ struct LabUnit {
     UnitTypeEnum kind;
     UnitPrefix prefix;
     bool isPerLitre;
+    const char16_t* text = nullptr; ///< in place of the unit's own
 };
 constexpr LabUnit millimole = {UNIT_MOL, MILLI, true};
 constexpr LabUnit micromole = {UNIT_MOL, MICRO, true};
 constexpr LabUnit gram = {UNIT_G, NONE, true};
 constexpr LabUnit enzymeUnit = {UNIT_U, NONE, true};
-constexpr LabUnit billionCells = {UNIT_NUMBER_OF, GIGA, true};
+// Its own text, "G/L", looks like grams per litre.
+constexpr LabUnit billionCells = {UNIT_NUMBER_OF, GIGA, true, u" \u00D7 10\u2079/L"};
 constexpr LabUnit percent = {UNIT_PROCENT, NONE, false};
 constexpr LabUnit second = {UNIT_S, NONE, false};
 constexpr LabUnit ratio = {UNIT_NUMBER_OF, NONE, false};
@@ -100,6 +103,13 @@ std::shared_ptr<Unit> unitOf(const LabUnit& unit)
     return makeUnit({{unit.kind, unit.prefix, 1}});
 }
 
+GString valueText(const LabValue& row)
+{
+    if (row.unit.text != nullptr)
+        return GString::format(u"%.*f", row.decimals, row.value) + row.unit.text;
+    return UnitValue(row.value, unitOf(row.unit)).ToString(row.decimals);
+}
+
 } // namespace
 
 std::span<const Panel> panels()
@@ -112,8 +122,7 @@ std::vector<LabText> labTexts(VenousPanels panel)
     std::vector<LabText> texts;
     for (const LabValue& row : labValues)
         if ((row.panels & panel) != NO_PANEL)
-            texts.push_back(
-                {tr(row.name), UnitValue(row.value, unitOf(row.unit)).ToString(row.decimals)});
+            texts.push_back({tr(row.name), valueText(row)});
     return texts;
 }
 

@@ -2,11 +2,12 @@
 //
 // LANGUAGE is a language code or the path of a catalogue (.mo).
 //
-// Exit status: 0 when the window was closed, 1 when it could not be shown, 2 for wrong arguments.
+// Exit status: 0 when the window was closed, 1 when it could not be shown, 2 for wrong arguments,
+// such as a language without a catalogue.
 
 #include "BedsideDialog.h"
 
-#include "infusions/translation.h"
+#include "translation/translation.h"
 
 #include <exception>
 #include <iostream>
@@ -30,9 +31,12 @@ int main(int argumentCount, char** argumentValues)
     }
     try {
         if (hasLanguage)
-            Infusions::speak(arguments[1]);
+            Translation::speak(arguments[1]);
         Bedside::BedsideDialog dialog;
         return dialog.show() ? shown : notShown;
+    } catch (const Translation::LanguageError& error) {
+        std::cerr << "bedside: " << error.what() << '\n';
+        return wrongArguments;
     } catch (const std::exception& error) {
         std::cerr << "bedside: " << error.what() << '\n';
         return notShown;

@@ -1,9 +1,12 @@
 #include "numberField.h"
 
 #include "infusions/quantity.h"
-#include "infusions/translation.h"
+#include "translation/translation.h"
 
 #include <algorithm>
+#include <array>
+
+#include <windows.h>
 
 namespace Bedside
 {
@@ -11,21 +14,36 @@ namespace
 {
 
 using Infusions::QuantityError;
-using Infusions::tr;
 using Pelmora::GString;
+using Translation::tr;
 
-GString trimmed(const GString& text)
+GString::View trimmed(const GString& text)
 {
-    const auto isSpace = [](auto unit) { return GString::is_space(unit); };
-    const GString::View view = text;
-    const auto first = std::find_if_not(view.begin(), view.end(), isSpace);
-    const auto last = std::find_if_not(view.rbegin(), std::make_reverse_iterator(first), isSpace);
-    return GString::Text(first, last.base());
+    return Infusions::trimmed(GString::View(text), GString::is_space);
 }
 
-[[noreturn]] void refuse(const char* reason, const GString& text)
+/// Where the decimal sign is a comma, a point may separate thousands.
+bool hasDecimalComma()
 {
-    throw QuantityError(GString::format(tr(reason), text));
+    const auto language = static_cast<LCID>(Pelmora::Native::gettext_locale.lang_id());
+    std::array<wchar_t, 8> sign = {};
+    GetLocaleInfoW(language, LOCALE_SDECIMAL, sign.data(), static_cast<int>(sign.size()));
+    return sign.front() == L',';
+}
+
+/// "2.500" and "70.000", but not "0.125": no thousands begin with a nought.
+bool looksLikeThousands(GString::View number)
+{
+    constexpr std::size_t digitsOfThousands = 3;
+    const std::size_t point = number.find(u'.');
+    return point != GString::View::npos && point > 0 && number.front() != u'0' &&
+           number.size() - point - 1 == digitsOfThousands;
+}
+
+template <class... Texts>
+[[noreturn]] void refuse(const char* reason, const Texts&... texts)
+{
+    throw QuantityError(GString::format(tr(reason), texts...));
 }
 
 } // namespace
@@ -37,10 +55,10 @@ bool isBlank(const GString& text)
 
 std::string plainNumber(const GString& text)
 {
-    const GString number = trimmed(text);
-    const GString::View view = number;
+    const GString::View view = trimmed(text);
+    const GString number = view;
     if (view.find(u',') != GString::View::npos)
-        refuse("'%s' has a comma; write the decimal point as '.'", number);
+        refuse("'%s' has a comma; write numbers like 2500 or 2.5", number);
     const auto digits = std::count_if(view.begin(), view.end(), GString::is_digit);
     const auto points = std::count(view.begin(), view.end(), u'.');
     const bool begins = GString::is_digit(view.front()) || (view.front() == u'.' && digits > 0);
@@ -48,6 +66,11 @@ std::string plainNumber(const GString& text)
         refuse("'%s' does not begin with a number", number);
     if (points > 1 || digits + points != static_cast<std::ptrdiff_t>(view.size()))
         refuse("'%s' is more than one number", number);
+    if (hasDecimalComma() && looksLikeThousands(view)) {
+        const std::size_t point = view.find(u'.');
+        const GString thousands = GString(view.substr(0, point)) + view.substr(point + 1);
+        refuse("'%s' can be read as thousands; write %s or %s", number, thousands, number + u"0");
+    }
     return number.to_narrow();
 }
 

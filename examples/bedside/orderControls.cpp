@@ -22,13 +22,26 @@ using Pelmora::DrugEnum;
 using Pelmora::GString;
 namespace Native = Pelmora::Native;
 
-constexpr int comboBoxes[] = {ID_DRUG, ID_DOSE_UNIT, ID_AMOUNT_UNIT};
+/// A list, and what stands in its place while the order cannot be changed: a disabled list is
+/// hard to read.
+struct Choice {
+    int comboBox;
+    int readOnly;
+};
+constexpr Choice choices[] = {
+    {ID_DRUG, ID_DRUG_SET}, {ID_DOSE_UNIT, ID_DOSE_UNIT_SET}, {ID_AMOUNT_UNIT, ID_AMOUNT_UNIT_SET}};
 constexpr int numberFields[] = {ID_DOSE, ID_WEIGHT, ID_AMOUNT, ID_VOLUME};
 
-template <class Numbers>
-bool contains(const Numbers& numbers, int number)
+bool isComboBox(int control)
 {
-    return std::find(std::begin(numbers), std::end(numbers), number) != std::end(numbers);
+    return std::any_of(std::begin(choices), std::end(choices),
+                       [=](const Choice& choice) { return choice.comboBox == control; });
+}
+
+bool isNumberField(int control)
+{
+    return std::find(std::begin(numberFields), std::end(numberFields), control) !=
+           std::end(numberFields);
 }
 
 /// A list's rows have the numbers of a table's rows.
@@ -94,18 +107,27 @@ OrderFields orderFields(HWND dialog)
 
 bool changesOrder(int control, int notification)
 {
-    return (notification == EN_CHANGE && contains(numberFields, control)) ||
-           (notification == CBN_SELCHANGE && contains(comboBoxes, control));
+    return (notification == EN_CHANGE && isNumberField(control)) ||
+           (notification == CBN_SELCHANGE && isComboBox(control));
 }
 
-void enableOrderControls(HWND dialog, bool enable)
+void enableWeight(HWND dialog)
 {
-    const bool needsWeight = isPerWeight(chosenUnit(dialog, ID_DOSE_UNIT, doseUnits));
-    for (const int comboBox : comboBoxes)
-        Native::enableControl(GetDlgItem(dialog, comboBox), enable);
+    const bool isNeeded = isPerWeight(chosenUnit(dialog, ID_DOSE_UNIT, doseUnits));
+    Native::enableControl(GetDlgItem(dialog, ID_WEIGHT), isNeeded);
+}
+
+void lockOrder(HWND dialog, bool lock)
+{
+    for (const Choice& choice : choices) {
+        showText(dialog, choice.readOnly, textOf(dialog, choice.comboBox));
+        if (lock)
+            exchange(dialog, choice.comboBox, choice.readOnly);
+        else
+            exchange(dialog, choice.readOnly, choice.comboBox);
+    }
     for (const int field : numberFields)
-        Native::enableControl(GetDlgItem(dialog, field),
-                              enable && (field != ID_WEIGHT || needsWeight));
+        SendDlgItemMessageW(dialog, field, EM_SETREADONLY, lock ? TRUE : FALSE, 0);
 }
 
 } // namespace Bedside

@@ -21,7 +21,10 @@ OrderFields orderFields(HWND dialog);
 /// Whether a message from this control, with this notification, says that the order was changed.
 bool changesOrder(int control, int notification);
 
-/// Lets the user change the order, or not. The weight can be changed where the dose needs it.
-void enableOrderControls(HWND dialog, bool enable);
+/// Lets the user enter the weight where the dose needs it.
+void enableWeight(HWND dialog);
+
+/// Lets the user change the order, or only read it.
+void lockOrder(HWND dialog, bool lock);
 
 } // namespace Bedside

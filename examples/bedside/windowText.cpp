@@ -1,5 +1,7 @@
 #include "windowText.h"
 
+#include "pelmora/gui/dialogs.h"
+
 namespace Bedside
 {
 namespace
@@ -56,6 +58,17 @@ int chosen(HWND dialog, int comboBox)
     if (row == static_cast<WPARAM>(CB_ERR))
         return 0;
     return static_cast<int>(send(dialog, comboBox, CB_GETITEMDATA, row, 0));
+}
+
+void exchange(HWND dialog, int shown, int hidden)
+{
+    constexpr UINT orderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+    const HWND before = GetDlgItem(dialog, shown);
+    const HWND after = GetDlgItem(dialog, hidden);
+    // Where a hidden control's focus goes is the next one in tab order.
+    SetWindowPos(after, before, 0, 0, 0, 0, orderOnly);
+    Pelmora::Native::showControl(after, true);
+    Pelmora::Native::showControl(before, false);
 }
 
 } // namespace Bedside

@@ -24,4 +24,7 @@ void choose(HWND dialog, int comboBox, int number);
 /// The number of the selected row, 0 when none is.
 int chosen(HWND dialog, int comboBox);
 
+/// Puts a hidden control into the place of another in sight, tab order and focus.
+void exchange(HWND dialog, int shown, int hidden);
+
 } // namespace Bedside

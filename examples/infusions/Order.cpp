@@ -2,11 +2,15 @@
 
 #include "drugNames.h"
 #include "fieldTexts.h"
+#include "pump.h"
 #include "quantity.h"
-#include "translation.h"
+#include "units.h"
 
-#include <algorithm>
-#include <memory>
+#include "translation/translation.h"
+
+#include "pelmora/gui/textUtil.h"
+
+#include <string>
 #include <vector>
 
 namespace Infusions
@@ -15,22 +19,8 @@ namespace
 {
 
 using Pelmora::GString;
-using Pelmora::Unit;
-using Pelmora::UnitElement;
-using Pelmora::UnitPrefix;
-using Pelmora::UnitTypeEnum;
 using Pelmora::UnitValue;
-
-std::vector<std::string_view> fields(std::string_view line)
-{
-    std::vector<std::string_view> result;
-    for (std::size_t start = 0; start <= line.size();) {
-        const std::size_t end = std::min(line.find('|', start), line.size());
-        result.push_back(trimmed(line.substr(start, end - start)));
-        start = end + 1;
-    }
-    return result;
-}
+using Translation::tr;
 
 bool isAbsent(std::string_view field)
 {
@@ -57,27 +47,20 @@ std::optional<UnitValue> patientWeight(std::string_view field)
 {
     if (isAbsent(field))
         return std::nullopt;
-    const Unit kilogram(
-        std::make_shared<UnitElement>(UnitTypeEnum::UNIT_G_PT, UnitPrefix::KILO, 1));
     const UnitValue weight = readQuantity(weightTexts, field, Grams::ofPatient);
-    if (!weight.unit->compatibleWith(kilogram))
+    if (!weight.unit->compatibleWith(kilogramOfPatient()))
         throw OrderError(tr("the weight is not in kg"));
     return weight;
-}
-
-std::shared_ptr<Unit> millilitrePerHour()
-{
-    auto unit = std::make_shared<Unit>(
-        std::make_shared<UnitElement>(UnitTypeEnum::UNIT_L, UnitPrefix::MILLI, 1));
-    unit->addElement(std::make_shared<UnitElement>(UnitTypeEnum::UNIT_HR, UnitPrefix::NONE, -1));
-    return unit;
 }
 
 } // namespace
 
 Order parseOrder(std::string_view line)
 {
-    const std::vector<std::string_view> field = fields(line);
+    const std::vector<std::string> texts = Pelmora::Native::split(line, '|', false);
+    std::vector<std::string_view> field;
+    for (const std::string& text : texts)
+        field.push_back(trimmed(text));
     if (field.size() != 5)
         throw OrderError(tr("an order has five fields: drug, dose, weight, amount and volume"));
     const auto drug = drugOfName(field[0]);
@@ -109,7 +92,7 @@ UnitValue pumpRate(const Order& order)
         throw OrderError(GString::format(tr("a dose in %s does not fit a bag with %s of drug"),
                                          order.dose.unit->ToString(),
                                          order.amount.unit->ToString()));
-    return rate.convertTo(unit);
+    return pumpSetting(rate.convertTo(unit));
 }
 
 } // namespace Infusions

@@ -31,7 +31,8 @@ Order parseOrder(std::string_view line);
 
 Pelmora::UnitValue concentration(const Order& order);
 
-/// In mL/hr. Throws OrderError when the order's units do not make a rate of volume.
+/// What to set on the pump, as `pumpSetting` rounds it. Throws OrderError when the order's units do
+/// not make a rate of volume, and for a rate that no pump runs at.
 Pelmora::UnitValue pumpRate(const Order& order);
 
 } // namespace Infusions

@@ -1,6 +1,6 @@
 #include "drugNames.h"
 
-#include "translation.h"
+#include "translation/translation.h"
 
 namespace Infusions
 {
@@ -8,6 +8,8 @@ namespace
 {
 
 using Pelmora::DrugEnum;
+using Translation::N_;
+using Translation::tr;
 
 struct DrugName {
     DrugEnum drug;

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "translation.h"
+#include "translation/translation.h"
 
 namespace Infusions
 {
+
+using Translation::N_;
 
 /// What is said about one field of an order that is not as it should be.
 struct FieldTexts {

@@ -4,13 +4,16 @@
 // are listed in the error log.
 //
 // Exit status: 0 when every order was calculated, 1 when some were refused (each is named on
-// standard error with its line and the reason), 2 when there was nothing to calculate.
+// standard error with its line and the reason), 2 when nothing was calculated or printed, for a
+// reason that standard error gives.
 
 #include "Order.h"
 #include "drugNames.h"
+#include "pump.h"
 #include "quantity.h"
 #include "table.h"
-#include "translation.h"
+
+#include "translation/translation.h"
 
 #include "pelmora/log/LogStream.h"
 
@@ -23,26 +26,27 @@ namespace
 {
 
 using Infusions::Order;
-using Infusions::tr;
+using Translation::N_;
+using Translation::tr;
 
-enum ExitStatus { allCalculated = 0, someRefused = 1, nothingToDo = 2 };
-
-constexpr int significantDigits = 3;
+enum ExitStatus { allCalculated = 0, someRefused = 1, nothingDone = 2 };
 
 Infusions::TableRow tableRow(const Order& order)
 {
-    return {Infusions::displayName(order.drug), order.dose.toNormalizedString(significantDigits),
-            Infusions::concentration(order).toNormalizedString(significantDigits),
-            Infusions::pumpRate(order).toNormalizedString(significantDigits)};
+    return {Infusions::displayName(order.drug), Infusions::quantityText(order.dose),
+            Infusions::quantityText(Infusions::concentration(order)),
+            Infusions::pumpText(Infusions::pumpRate(order))};
 }
 
-int run(const std::string& fileName)
+ExitStatus failure(const std::string& fileName, const char* reason)
+{
+    std::cerr << fileName << ": " << tr(reason).to_utf8() << '\n';
+    return nothingDone;
+}
+
+ExitStatus run(const std::string& fileName)
 {
     std::ifstream file(fileName);
-    if (!file) {
-        std::cerr << fileName << ": " << tr("the file cannot be opened").to_utf8() << '\n';
-        return nothingToDo;
-    }
     std::vector<Infusions::TableRow> rows = {
         {tr("Drug"), tr("Dose"), tr("Concentration"), tr("Pump rate")}};
     std::string refused;
@@ -58,7 +62,12 @@ int run(const std::string& fileName)
                        tr("order refused:").to_utf8() + " " + error.what() + "\n";
         }
     }
-    std::cout << Infusions::tableText(rows).to_utf8() << std::flush;
+    if (!file.eof()) // a folder can be opened on some systems
+        return failure(fileName, N_("the file cannot be read"));
+    if (rows.size() == 1 && refused.empty())
+        return failure(fileName, N_("the file has no orders"));
+    if (!(std::cout << Infusions::tableText(rows).to_utf8() << std::flush))
+        return failure(fileName, N_("the table cannot be printed"));
     std::cerr << refused;
     return refused.empty() ? allCalculated : someRefused;
 }
@@ -71,18 +80,18 @@ int main(int argumentCount, char** argumentValues)
     const bool hasLanguage = arguments.size() == 3 && arguments[0] == "--lang";
     if (!hasLanguage && arguments.size() != 1) {
         std::cerr << "usage: infusions [--lang LANGUAGE] FILE\n";
-        return nothingToDo;
+        return nothingDone;
     }
     try {
         if (hasLanguage)
-            Infusions::speak(arguments[1]);
-        const int status = run(arguments.back());
-        if (hasLanguage)
+            Translation::speak(arguments[1]);
+        const ExitStatus status = run(arguments.back());
+        if (Translation::hasUntranslated())
             std::cerr << tr("Untranslated texts are listed in").to_utf8() << ' '
                       << Pelmora::Native::get_log().path() << '\n';
         return status;
     } catch (const std::exception& error) {
         std::cerr << "infusions: " << error.what() << '\n';
-        return nothingToDo;
+        return nothingDone;
     }
 }

@@ -1,7 +1,8 @@
 #include "quantity.h"
 
-#include "translation.h"
+#include "translation/translation.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <memory>
@@ -15,6 +16,8 @@ using Pelmora::GString;
 using Pelmora::UnitElement;
 using Pelmora::UnitPrefix;
 using Pelmora::UnitTypeEnum;
+using Pelmora::UnitValue;
+using Translation::tr;
 
 struct UnitWord {
     std::string_view word;
@@ -63,7 +66,7 @@ std::shared_ptr<Pelmora::Unit> unit(std::string_view text, Grams grams)
 
 } // namespace
 
-Pelmora::UnitValue quantity(std::string_view text, Grams grams)
+UnitValue quantity(std::string_view text, Grams grams)
 {
     double number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -75,13 +78,25 @@ Pelmora::UnitValue quantity(std::string_view text, Grams grams)
     return {number, unit(trimmed(text.substr(rest)), grams)};
 }
 
+GString quantityText(const UnitValue& quantity)
+{
+    constexpr int significantDigits = 3;
+    constexpr double roundsToFourDigits = 999.5;
+    UnitValue shown = quantity.toNormalized(significantDigits);
+    if (shown.value >= roundsToFourDigits) {
+        shown.value = std::max(shown.value, 1000.0);
+        shown = shown.toNormalized(significantDigits);
+    }
+    if (shown.value >= roundsToFourDigits) // there is no larger prefix
+        return shown.ToString(0);
+    return shown.toNormalizedString(significantDigits);
+}
+
 std::string_view trimmed(std::string_view text)
 {
-    constexpr std::string_view space = " \t\r";
-    const std::size_t first = text.find_first_not_of(space);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(space) - first + 1);
+    return trimmed(text, [](char character) {
+        return character == ' ' || character == '\t' || character == '\r';
+    });
 }
 
 } // namespace Infusions

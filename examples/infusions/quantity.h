@@ -25,7 +25,19 @@ enum class Grams {
 /// Throws QuantityError for anything else.
 Pelmora::UnitValue quantity(std::string_view text, Grams grams = Grams::ofDrug);
 
+/// "1.60 mg/mL": with the prefix that three significant digits need, and without an exponent.
+Pelmora::GString quantityText(const Pelmora::UnitValue& quantity);
+
 /// The text without white space at its ends.
 std::string_view trimmed(std::string_view text);
+template <class View, class IsSpace>
+View trimmed(View text, IsSpace isSpace)
+{
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
 
 } // namespace Infusions

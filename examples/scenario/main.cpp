@@ -1,16 +1,20 @@
-// scenario ADDRESS [ATTRIBUTE VALUE]...: downloads a scenario document and prints its version and,
-// for each pair, the first event whose attribute has that value.
+// scenario [--lang LANGUAGE] ADDRESS [ATTRIBUTE VALUE]...: downloads a scenario document and prints
+// its version and, for each pair, the first event whose attribute has that value.
+//
+// LANGUAGE is a language code or the path of a catalogue (.mo).
 //
 // Exit status: 0 when everything was found, 1 when some event was not, 2 for wrong arguments, 3
 // when the document could not be downloaded, 4 when it is not well-formed, 5 when it is no
 // scenario.
 
+#include "translation/translation.h"
+
 #include "pelmora/pelmora.h"
 
-#include <cstddef>
 #include <filesystem>
 #include <iostream>
 #include <random>
+#include <span>
 #include <string>
 
 namespace
@@ -19,6 +23,8 @@ namespace
 using ManagedHTTP::HTTPDownloader;
 using ManagedXML::ManagedXMLParser;
 using Pelmora::GString;
+using Translation::N_;
+using Translation::tr;
 
 enum ExitStatus {
     allFound = 0,
@@ -53,52 +59,77 @@ private:
     std::filesystem::path path_;
 };
 
-ExitStatus failure(ExitStatus status, const std::string& address, const char* reason)
+/// An argument, which is UTF-8 or, on Windows, in the ANSI code page.
+GString textOf(const char* argument)
 {
-    std::cerr << "scenario: " << address << ' ' << reason << '\n';
+    try {
+        return GString::from_utf8(argument);
+    } catch (const char*) {
+        return GString(argument);
+    }
+}
+
+/// The reason has a place for the address.
+ExitStatus failure(ExitStatus status, const char* address, const char* reason)
+{
+    std::cerr << "scenario: " << GString::format(tr(reason), textOf(address)).to_utf8() << '\n';
     return status;
 }
 
 /// Prints the first event whose attribute has the value; false when there is none.
-bool printEvent(const ManagedXMLParser& document, const char* attribute, const char* value)
+bool printEvent(const ManagedXMLParser& document, const GString& attribute, const GString& value)
 {
     const GString event = document.getElementWithAttributeValue(attribute, value);
-    std::cout << "Event with " << attribute << " \"" << value
-              << "\": " << (event.empty() ? "none" : event.to_utf8()) << '\n';
+    std::cout << GString::format(tr("Event with %s \"%s\": %s"), attribute, value,
+                                 event.empty() ? tr("none") : event)
+                     .to_utf8()
+              << '\n';
     return !event.empty();
 }
 
-ExitStatus run(const std::string& address, char** pairs, std::ptrdiff_t pairCount)
+ExitStatus run(const char* address, std::span<char*> pairs)
 {
     const TemporaryFile file;
-    if (!HTTPDownloader::DownloadFile(address.c_str(), file.name().c_str(),
+    if (!HTTPDownloader::DownloadFile(address, file.name().c_str(),
                                       HTTPDownloader::defaultTimeoutMs, nullptr, nullptr))
-        return failure(notDownloaded, address, "cannot be downloaded");
+        return failure(notDownloaded, address, N_("%s cannot be downloaded"));
     ManagedXMLParser document;
     if (!document.parseFromFile(file.name().c_str()))
-        return failure(notWellFormed, address, "is not a well-formed XML document");
+        return failure(notWellFormed, address, N_("%s is not a well-formed XML document"));
     const GString version = document.getAttribute("version");
     if (version.empty())
-        return failure(noScenario, address, "is no scenario: its root element has no version");
+        return failure(noScenario, address,
+                       N_("%s is no scenario: its root element has no version"));
 
-    std::cout << "Scenario: " << document.getElement("Title").to_utf8() << " (version "
-              << version.to_utf8() << ")\n";
+    std::cout << GString::format(tr("Scenario: %s (version %s)"), document.getElement("Title"),
+                                 version)
+                     .to_utf8()
+              << '\n';
     bool all = true;
-    for (std::ptrdiff_t i = 0; i < pairCount; ++i)
-        all = printEvent(document, pairs[2 * i], pairs[2 * i + 1]) && all;
+    for (std::size_t i = 0; i < pairs.size(); i += 2)
+        all = printEvent(document, textOf(pairs[i]), textOf(pairs[i + 1])) && all;
     return all ? allFound : someNotFound;
 }
 
 } // namespace
 
-int main(int argumentCount, char** arguments)
+int main(int argumentCount, char** argumentValues)
 {
-    if (argumentCount < 2 || argumentCount % 2 != 0) {
-        std::cerr << "usage: scenario ADDRESS [ATTRIBUTE VALUE]...\n";
+    std::span<char*> arguments(argumentValues + 1, argumentValues + argumentCount);
+    const bool hasLanguage = arguments.size() > 2 && arguments[0] == std::string("--lang");
+    const char* const language = hasLanguage ? arguments[1] : "en";
+    if (hasLanguage)
+        arguments = arguments.subspan(2);
+    if (arguments.size() % 2 == 0) {
+        std::cerr << "usage: scenario [--lang LANGUAGE] ADDRESS [ATTRIBUTE VALUE]...\n";
         return wrongArguments;
     }
     try {
-        return run(arguments[1], arguments + 2, (argumentCount - 2) / 2);
+        Translation::speak(language);
+        return run(arguments[0], arguments.subspan(1));
+    } catch (const Translation::LanguageError& error) {
+        std::cerr << "scenario: " << error.what() << '\n';
+        return wrongArguments;
     } catch (const std::exception& error) {
         std::cerr << "scenario: " << error.what() << '\n';
         return notDownloaded;

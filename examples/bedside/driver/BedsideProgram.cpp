@@ -71,6 +71,14 @@ BedsideProgram::BedsideProgram(const std::wstring& arguments)
     }
 }
 
+std::wstring BedsideProgram::speaking(const std::wstring& language)
+{
+    if (language == L"en")
+        return L"--lang en";
+    const auto catalogue = folderOfThisProgram().parent_path() / "po" / (language + L".mo");
+    return L"--lang \"" + catalogue.wstring() + L'"';
+}
+
 BedsideProgram::~BedsideProgram()
 {
     TerminateProcess(process_.hProcess, 1); // does nothing to one that has ended
@@ -112,6 +120,15 @@ void BedsideProgram::choose(int comboBox, const std::wstring& row) const
 void BedsideProgram::press(int button) const
 {
     send(control(button), BM_CLICK, 0, 0);
+}
+
+void BedsideProgram::pressEnter(int edit, wchar_t digit) const
+{
+    send(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control(edit)), TRUE);
+    const std::wstring before = text(edit);
+    PostMessageW(control(edit), WM_KEYDOWN, VK_RETURN, 0);
+    PostMessageW(control(edit), WM_CHAR, static_cast<WPARAM>(digit), 0);
+    waitUntil("the keys", [&] { return text(edit) != before; });
 }
 
 void BedsideProgram::waitUntil(const char* what, const std::function<bool()>& condition) const

@@ -18,6 +18,8 @@ class BedsideProgram
 public:
     /// Starts bedside.exe, which stands beside this program, and waits for its window.
     explicit BedsideProgram(const std::wstring& arguments = L"");
+    /// The arguments for a language: a code that has a catalogue in the same build, or "en".
+    static std::wstring speaking(const std::wstring& language);
     BedsideProgram(const BedsideProgram&) = delete;
     BedsideProgram& operator=(const BedsideProgram&) = delete;
     ~BedsideProgram();
@@ -25,6 +27,10 @@ public:
     HWND window() const { return window_; }
     HWND control(int number) const { return GetDlgItem(window_, number); }
     bool isEnabled(int number) const { return IsWindowEnabled(control(number)) != 0; }
+    bool isReadOnly(int number) const
+    {
+        return (GetWindowLongW(control(number), GWL_STYLE) & ES_READONLY) != 0;
+    }
     bool isVisible(int number) const { return IsWindowVisible(control(number)) != 0; }
     std::wstring text(int number) const;
 
@@ -35,6 +41,8 @@ public:
     /// Selects the row with this text.
     void choose(int comboBox, const std::wstring& row) const;
     void press(int button) const;
+    /// Presses the keys Enter and then `digit` in an edit.
+    void pressEnter(int edit, wchar_t digit) const;
 
     void waitUntil(const char* what, const std::function<bool()>& condition) const;
 

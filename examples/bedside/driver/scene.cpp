@@ -30,11 +30,20 @@ void playRefusal(const BedsideProgram& program)
     program.waitUntil("the refusal", [&] { return !program.isEnabled(ID_START); });
 }
 
+void playEmpty(const BedsideProgram& program)
+{
+    program.type(ID_AMOUNT, L"0.0021");
+    program.type(ID_VOLUME, L"0.1");
+    program.press(ID_START);
+    program.waitUntil("the end", [&] { return program.isVisible(ID_START); });
+}
+
 struct Scene {
     const char* name;
     void (*play)(const BedsideProgram&);
 };
-constexpr Scene scenes[] = {{"running", playRunning}, {"refusal", playRefusal}};
+constexpr Scene scenes[] = {
+    {"running", playRunning}, {"refusal", playRefusal}, {"empty", playEmpty}};
 
 BOOL CALLBACK isPainted(HWND control, LPARAM)
 {

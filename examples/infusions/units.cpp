@@ -1,6 +1,6 @@
 #include "units.h"
 
-namespace Bedside
+namespace Infusions
 {
 
 using enum Pelmora::UnitTypeEnum;
@@ -30,4 +30,4 @@ std::shared_ptr<Pelmora::Unit> kilogramOfPatient()
     return makeUnit({{UNIT_G_PT, KILO, 1}});
 }
 
-} // namespace Bedside
+} // namespace Infusions

@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <memory>
 
-namespace Bedside
+namespace Infusions
 {
 
 std::shared_ptr<Pelmora::Unit> makeUnit(std::initializer_list<Pelmora::UnitElement> elements);
@@ -14,4 +14,4 @@ std::shared_ptr<Pelmora::Unit> millilitre();
 std::shared_ptr<Pelmora::Unit> millilitrePerHour();
 std::shared_ptr<Pelmora::Unit> kilogramOfPatient();
 
-} // namespace Bedside
+} // namespace Infusions
