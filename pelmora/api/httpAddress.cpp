@@ -44,6 +44,22 @@ std::string percentEncoded(std::string_view text)
     return result;
 }
 
+std::string_view withoutSpaceAround(std::string_view text)
+{
+    constexpr std::string_view space = " \t\r\n";
+    text.remove_prefix(std::min(text.find_first_not_of(space), text.size()));
+    return text.substr(0, text.find_last_not_of(space) + 1); // npos + 1 is 0
+}
+
+/// Letters beyond ASCII may stand there as they may in a path.
+bool isUserInfo(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) {
+        return isAlphanumeric(c) || static_cast<unsigned char>(c) >= 0x80 ||
+               std::string_view("-._~%!$&'()*+,;=:").find(c) != std::string_view::npos;
+    });
+}
+
 bool isHost(std::string_view host)
 {
     const bool isAddress6 = host.starts_with('[') && host.ends_with(']');
@@ -57,7 +73,11 @@ bool isHost(std::string_view host)
 /// Reads "user@host:port" into the address; the port stays as it is when none is given.
 bool parseAuthority(std::string_view authority, HttpAddress& address)
 {
-    authority.remove_prefix(authority.rfind('@') + 1); // npos + 1 is 0
+    if (const auto at = authority.find('@'); at != std::string_view::npos) {
+        if (!isUserInfo(authority.substr(0, at)))
+            return false;
+        authority.remove_prefix(at + 1);
+    }
     const auto colon = authority.find(':', authority.starts_with('[') ? authority.find(']') : 0);
     const std::string_view host = authority.substr(0, colon);
     if (!isHost(host))
@@ -105,6 +125,7 @@ bool hasScheme(std::string_view reference)
 
 std::optional<HttpAddress> parseHttpAddress(std::string_view url)
 {
+    url = withoutSpaceAround(url);
     HttpAddress address;
     constexpr std::string_view plain = "http://";
     constexpr std::string_view secure = "https://";
@@ -128,6 +149,7 @@ std::optional<HttpAddress> parseHttpAddress(std::string_view url)
 
 std::optional<HttpAddress> resolveHttpAddress(const HttpAddress& base, std::string_view reference)
 {
+    reference = withoutSpaceAround(reference);
     if (hasScheme(reference))
         return parseHttpAddress(reference);
     if (reference.starts_with("//"))

@@ -13,7 +13,8 @@ namespace Pelmora::Native
 using Platform::HttpAddress;
 
 /// Reads an absolute "http" or "https" address in UTF-8; characters that an address may not have
-/// are percent-encoded. A user name in it and a fragment are dropped. None for anything else.
+/// are percent-encoded. White space around it, a user name in it and a fragment are dropped. None
+/// for anything else.
 std::optional<HttpAddress> parseHttpAddress(std::string_view url);
 
 /// What `reference` means in a response from `base`. None when that is no HTTP address.
