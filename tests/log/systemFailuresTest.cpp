@@ -1,8 +1,11 @@
-// The import pointers of two functions are defined here, so that the library calls these instead.
+// The import pointers of three functions are defined here, so that the library calls these instead.
 
 #include "pelmora/log/osVersion.h"
 #include "pelmora/platform/osVersion.h"
 #include "pelmora/platform/temporaryFolder.h"
+#include "pelmora/platform/wholeFile.h"
+
+#include "tests/TemporaryFolder.h"
 
 #include <cstdlib>
 #include <set>
@@ -29,9 +32,16 @@ BOOL WINAPI choosyGetVersion(OSVERSIONINFOA* record)
     return acceptedRecordSizes.count(record->dwOSVersionInfoSize) > 0 ? TRUE : FALSE;
 }
 
+BOOL WINAPI failingWriteFile(HANDLE, const void*, DWORD, DWORD*, OVERLAPPED*)
+{
+    SetLastError(ERROR_DISK_FULL);
+    return FALSE;
+}
+
 } // namespace
 
 extern "C" {
+void* __imp_WriteFile = reinterpret_cast<void*>(failingWriteFile);
 void* __imp_GetTempPathA = reinterpret_cast<void*>(failingGetTempPath);
 void* __imp_GetVersionExA = reinterpret_cast<void*>(choosyGetVersion);
 }
@@ -53,6 +63,13 @@ TEST(SystemFailures, TemporaryFolderFallsBackToTheEnvironment)
         _putenv(tmp);
         EXPECT_EQ(temporaryFolder(), folder);
     }
+}
+
+TEST(SystemFailures, FilesOnAFullDiskAreDeleted)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(writeWholeFile(folder.path("f").wstring(), "text").value(), ERROR_DISK_FULL);
+    EXPECT_FALSE(std::filesystem::exists(folder.path("f")));
 }
 
 TEST(SystemFailures, VersionIsAskedWithBothRecords)
