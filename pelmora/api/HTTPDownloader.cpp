@@ -3,9 +3,12 @@
 #include "pelmora/api/httpAddress.h"
 #include "pelmora/gettext/gstringUtil.h"
 #include "pelmora/platform/httpGet.h"
+#include "pelmora/platform/keepLoaded.h"
 #include "pelmora/platform/wholeFile.h"
 
+#include <algorithm>
 #include <charconv>
+#include <exception>
 
 namespace ManagedHTTP
 {
@@ -60,6 +63,14 @@ std::optional<std::string> download(const HttpAddress& origin, const HttpCredent
     return std::nullopt;
 }
 
+bool hasControlCharacters(std::string_view text)
+{
+    return std::any_of(text.begin(), text.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte < 0x20 || byte == 0x7F;
+    });
+}
+
 bool replaceFile(const GString& name, std::string_view content)
 {
     return !Platform::deleteFile(name.text()) && !Platform::writeWholeFile(name.text(), content);
@@ -84,12 +95,17 @@ bool HTTPDownloader::DownloadFile(const char* url, const char* filepath, int tim
         if (!address)
             return false;
         std::optional<HttpCredentials> credentials;
-        if (user != nullptr && pass != nullptr)
+        if (user != nullptr && pass != nullptr) {
+            if (hasControlCharacters(user) || hasControlCharacters(pass))
+                return false;
             credentials = {user, pass};
+        }
+        // A thread of the system's client may still be at work when the time has run out.
+        Platform::keepLoaded();
         const auto body =
             download(*address, credentials ? &*credentials : nullptr, deadlineIn(timeoutMs));
         return body && replaceFile(GString(std::string_view(filepath)), *body);
-    } catch (...) {
+    } catch (const std::exception&) {
         return false;
     }
 }

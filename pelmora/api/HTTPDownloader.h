@@ -18,12 +18,14 @@ public:
     ///
     /// The texts are in the ANSI code page. `timeoutMs` is for the whole download: -1 for no limit,
     /// 0 runs out at once, other negative numbers fail. `user` and `pass`, when neither is null,
-    /// are given to that server alone and when it asks for them, by Digest or Basic authentication.
+    /// are given to that server alone and when it asks for them, by Digest or Basic authentication;
+    /// with a control character in either, nothing is sent and the download fails.
     ///
     /// Goes directly to the server, whatever proxy the system is set to, and follows up to 50
     /// redirects, but none from https to http. The system's store says which certificates are
     /// trusted; on Linux SSL_CERT_FILE names another one, and SSL_CERT_DIR a further one. The body
-    /// is held in memory. Never throws. Several threads may download at once.
+    /// is held in memory. Never throws. Several threads may download at once. The library stays in
+    /// the process after the first download, also when it is unloaded.
     static bool DownloadFile(const char* url, const char* filepath, int timeoutMs, const char* user,
                              const char* pass);
 };

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 
@@ -19,7 +21,8 @@ struct HttpAddress {
     std::string target;
 };
 
-/// Bytes as the server is to get them; either may be empty.
+/// Bytes as the server is to get them, without control characters, which could end the header line
+/// that holds them; either may be empty.
 struct HttpCredentials {
     std::string user;
     std::string password;
@@ -36,13 +39,23 @@ struct HttpResponse {
 
 using Deadline = std::optional<std::chrono::steady_clock::time_point>; ///< none: no limit
 
+/// For clients that take no deadline: what is left until `end`, rounded up; 0 when nothing is.
+inline int millisecondsUntil(std::chrono::steady_clock::time_point end)
+{
+    using std::chrono::milliseconds;
+    const auto left = std::chrono::ceil<milliseconds>(end - std::chrono::steady_clock::now());
+    constexpr milliseconds::rep most = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp<milliseconds::rep>(left.count(), 0, most));
+}
+
 /// One request with GET, directly to the server whatever proxy the system names, and the whole
 /// response, which may be a failure or a redirect: neither is followed up. Credentials are given
 /// only when the server asks for them, by the Digest or the Basic scheme. Certificates are verified
 /// by the system's store. None when there is no connection, no trust, no complete response, or no
-/// time left: the deadline holds for name resolution, authentication and body together. None, too,
-/// when more comes than the stated length, where the system's client lets that be seen: WinHTTP
-/// does not.
+/// time left: the deadline holds for name resolution, authentication and body together. A response
+/// is complete when the blank line after its head and its whole body have come. None, too, when
+/// more comes than the stated length, where the system's client lets that be seen: WinHTTP does
+/// not.
 ///
 /// May run in several threads at once.
 std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCredentials* credentials,

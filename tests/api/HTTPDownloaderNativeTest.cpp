@@ -2,9 +2,13 @@
 
 #include "tests/TemporaryFolder.h"
 
+#include <csignal>
 #include <cstdlib>
+#include <tuple>
 
 #include <gtest/gtest.h>
+
+#include <sys/resource.h>
 
 namespace ManagedHTTP
 {
@@ -54,17 +58,43 @@ TEST(Trust, DigestAuthentication)
     EXPECT_FALSE(download(url, "", ""));
 }
 
-TEST(Lengths, MoreThanStatedFails)
+TEST(Bodies, EndAsTheServerSays)
 {
+    const std::string ok = "HTTP/1.1 200 OK\r\n";
+    const std::string chunked = ok + "Transfer-Encoding: chunked\r\n\r\n";
+    const std::tuple<std::string, bool> rows[] = {
+        {ok + "Content-Length: 3\r\n\r\n12345", false},
+        {"HTTP/1.1 100 Continue\r\n\r\n" + ok + "Content-Length: 5\r\n\r\n12345", true},
+        {chunked + "5\r\nin ch\r\n0\r\nTrailer: x\r\n\r\n", true},
+        {chunked + "5\r\nin", false},
+        {chunked + "5\r\nin ch\r\n", false},
+        {chunked + "5\r\nin ch\r\n0", false},
+        {chunked + "FFFFFFFFFFFFFFFFF\r\nx", false},
+        {chunked + "-5\r\nx", false},
+    };
     const std::string url = std::string("http://127.0.0.1:") + std::getenv("PELMORA_HTTP_PORT");
-    EXPECT_FALSE(download(url + "/length/3"));
+    for (const auto& [response, whole] : rows)
+        EXPECT_EQ(download(url + "/raw?" + response + "#"), whole) << response;
 }
 
-TEST(ChunkedBodies, MustComeToTheirEnd)
+TEST(Files, WithoutRoomForAllAreDeleted)
 {
+    const std::tuple<const char*, rlim_t> rows[] = {{"/text", 2}, {"/large", 100000}};
     const std::string url = std::string("http://127.0.0.1:") + std::getenv("PELMORA_HTTP_PORT");
-    for (const char* chunks : {"5-in", "5-in%20ch-", "5-in%20ch-0", "FFFFFFFFFFFFFFFFF-x", "-5-x"})
-        EXPECT_FALSE(download(url + "/cutChunks/" + chunks)) << chunks;
+    std::signal(SIGXFSZ, SIG_IGN);
+    for (const auto& [path, room] : rows) {
+        const Pelmora::TemporaryFolder folder;
+        const auto setRoom = [](rlim_t size) {
+            const rlimit limit{size, RLIM_INFINITY};
+            ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+        };
+        setRoom(room);
+        const bool done = HTTPDownloader::DownloadFile(
+            (url + path).c_str(), folder.name("file").c_str(), 20000, nullptr, nullptr);
+        setRoom(RLIM_INFINITY);
+        EXPECT_FALSE(done) << path;
+        EXPECT_FALSE(std::filesystem::exists(folder.path("file"))) << path;
+    }
 }
 
 } // namespace

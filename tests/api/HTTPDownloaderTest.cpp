@@ -50,27 +50,34 @@ std::string downloaded(const std::string& url, int timeoutMs = 20000, const char
 
 TEST(HTTPDownloader, BodiesAndFailures)
 {
+    const std::string ok = "/raw?HTTP/1.1 200 OK\r\n"; // "#" keeps white space at the end
+    const std::string chunks = "\r\n5\r\nin ch\r\n4\r\nunks\r\n0\r\n\r\n#";
     const std::tuple<std::string, std::string> rows[] = {
         {"/text", "text"},
         {"/none", ""},
-        {"/untilClose", "until close"},
-        {"/chunked", "in chunks"},
+        {ok + "\r\nuntil close", "until close"},
+        {ok + "Transfer-Encoding: chunked\r\n" + chunks, "in chunks"},
+        {ok + "Transfer-Encoding: chunked\r\nContent-Length: 3\r\n" + chunks, "in chunks"},
         {"/echo/a b/\xE9?q=\xE9#fragment", "/echo/a%20b/%C3%A9?q=%C3%A9 []"},
-        {"/length/5", "12345"},
-        {"/length/6", failed},
-        {"/length/-5", failed},
-        {"/length/99999999999999999999999", failed},
-        {"/length/9000000000000000000", failed},
-        {"/garbage", failed},
+        {ok + "Content-Length: 5\r\n\r\n12345", "12345"},
+        {ok + "Content-Length: 6\r\n\r\n12345", failed},
+        {ok + "Content-Length: -5\r\n\r\n12345", failed},
+        {ok + "Content-Length: 99999999999999999999999\r\n\r\n12345", failed},
+        {ok + "Content-Length: 9000000000000000000\r\n\r\n12345", failed},
+        {"/raw?no HTTP at all\r\n\r\n#", failed},
+        {"/status/201", "not this"},
         {"/status/404", failed},
         {"/status/500", failed},
-        {"/status/304", failed},
         {"/status/302", failed},
         {"/status/302?", failed},
-        {"/redirect/3", "end"},
         {"/redirect/50", "end"},
         {"/redirect/51", failed},
-        {"/to?/text", "text"},
+        {"/to/300?/text", "text"},
+        {"/to/301?/text", "text"},
+        {"/to/303?/text", "text"},
+        {"/to/304?/text", failed},
+        {"/to/307?/text", "text"},
+        {"/to/308?/text", "text"},
         {"/to?file:///etc/hostname", failed},
         {"/to?" + server("PELMORA_OTHER_PORT") + "/text", "text"},
     };
@@ -87,6 +94,24 @@ TEST(HTTPDownloader, BodiesAndFailures)
         EXPECT_EQ(downloaded(url), failed) << url;
 }
 
+TEST(HTTPDownloader, ConnectionsThatEndInTheHeadFail)
+{
+    const char* const heads[] = {
+        "",
+        "HTTP/1.1 200 OK",
+        "HTTP/1.1 200 OK\r\n",
+        "HTTP/1.1 200 OK\r\nConte",
+        "HTTP/1.1 200 OK\r\nContent-Length: 5",
+        "HTTP/1.1 200 OK\r\nServer: x\r\n",
+        "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n",
+        "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\nServer: x\r\n",
+        "HTTP/1.1 302 Found\r\nLocation: /text\r\n",
+    };
+    for (const char* const head : heads)
+        for (const char* const end : {"/raw?", "/reset?"})
+            EXPECT_EQ(downloaded(server() + end + head + "#"), failed) << end << head;
+}
+
 TEST(HTTPDownloader, CredentialsOnlyWhenAskedAndOnlyThere)
 {
     const std::string other = server("PELMORA_OTHER_PORT");
@@ -96,11 +121,14 @@ TEST(HTTPDownloader, CredentialsOnlyWhenAskedAndOnlyThere)
         {"/basic?:", "", "", "let in"},
         {"/basic?m:", "m", "", "let in"},
         {"/basic?m:s", "m", "wrong", failed},
-        {"/basic?m:s", nullptr, "s", failed},
-        {"/basic?m:s", "m", nullptr, failed},
+        {"/basic?:s", nullptr, "s", failed},
+        {"/basic?m:", "m", nullptr, failed},
         {"/echo", "m", "s", "/echo []"},
+        {"/echo", "m\r\nX: y", "s", failed},
+        {"/echo", "m", "s\x7F", failed},
         {"/to?/basic?m:s", "m", "s", "let in"},
         {"/to?" + other + "/basic?m:s", "m", "s", failed},
+        {"/to?http://localhost:" + setting("PELMORA_HTTP_PORT") + "/basic?m:s", "m", "s", failed},
         {"/to?" + other + "/to?" + server() + "/basic?m:s", "m", "s", "let in"},
     };
     for (const auto& [path, user, pass, content] : rows)
@@ -109,7 +137,7 @@ TEST(HTTPDownloader, CredentialsOnlyWhenAskedAndOnlyThere)
 
 TEST(HTTPDownloader, TheTimeLimitIsForTheWholeDownload)
 {
-    EXPECT_EQ(downloaded(server() + "/text", -1), "text");
+    EXPECT_EQ(downloaded(server() + "/late", -1), "late");
     for (const int limit : {0, -2, std::numeric_limits<int>::min()})
         EXPECT_EQ(downloaded(server() + "/text", limit), failed) << limit;
     for (const char* path : {"/silent", "/trickle", "/to?/trickle"}) {
@@ -120,6 +148,8 @@ TEST(HTTPDownloader, TheTimeLimitIsForTheWholeDownload)
         EXPECT_GE(taken, std::chrono::milliseconds(490)) << path;
         EXPECT_LT(taken, std::chrono::seconds(5)) << path;
     }
+    // Nor does a connection outlive it.
+    EXPECT_EQ(downloaded(server() + "/deserted"), "nobody waits");
 }
 
 TEST(HTTPDownloader, Files)
@@ -130,7 +160,11 @@ TEST(HTTPDownloader, Files)
         return HTTPDownloader::DownloadFile(url.c_str(), file, 20000, nullptr, nullptr);
     };
     EXPECT_TRUE(download(folder.name("new").c_str()));
-    EXPECT_EQ(TemporaryFolder::read(folder.path("new")), "text");
+    // The file is replaced, not written over.
+    TemporaryFolder::write(folder.path("old"), "older");
+    std::filesystem::create_hard_link(folder.path("old"), folder.path("other name"));
+    EXPECT_TRUE(download(folder.name("old").c_str()));
+    EXPECT_EQ(TemporaryFolder::read(folder.path("other name")), "older");
     EXPECT_FALSE(download(folder.name("no/folder").c_str()));
     EXPECT_FALSE(download(folder.name("").c_str()));
     EXPECT_FALSE(download(""));
@@ -146,11 +180,11 @@ TEST(HTTPDownloader, SeveralThreads)
         std::vector<std::jthread> threads;
         for (std::size_t i = 0; i < results.size(); ++i)
             threads.emplace_back([&results, i] {
-                results[i] = downloaded(server() + (i % 2 == 0 ? "/redirect/3" : "/chunked"));
+                results[i] = downloaded(server() + (i % 2 == 0 ? "/redirect/3" : "/text"));
             });
     }
     for (std::size_t i = 0; i < results.size(); ++i)
-        EXPECT_EQ(results[i], i % 2 == 0 ? "end" : "in chunks");
+        EXPECT_EQ(results[i], i % 2 == 0 ? "end" : "text");
 }
 
 TEST(HTTPDownloader, UntrustedCertificatesFail)

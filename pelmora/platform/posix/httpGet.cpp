@@ -1,11 +1,11 @@
 #include "pelmora/platform/httpGet.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <memory>
 #include <new>
 #include <string_view>
+#include <utility>
 
 #include <curl/curl.h>
 
@@ -28,38 +28,49 @@ Handle newHandle()
     return handle;
 }
 
-/// Called by curl with a piece of the body; another number than the piece's size ends the transfer.
-std::size_t keepBody(char* data, std::size_t one, std::size_t size, void* body) noexcept
+/// What curl hands over. A transfer may have several responses: an interim one, or a demand for
+/// authentication, comes before the last.
+struct Arrivals {
+    std::string body;
+    std::size_t bodySize = 0; ///< of the last response, with what exceeds the stated length
+    bool inHead = false;
+    bool headCutShort = false; ///< of a response before the last
+};
+
+/// Called with a piece of the body; another number than the piece's size ends the transfer.
+std::size_t keepBody(char* data, std::size_t one, std::size_t size, void* arrivals) noexcept
 {
     try {
-        static_cast<std::string*>(body)->append(data, size);
+        static_cast<Arrivals*>(arrivals)->body.append(data, size);
         return size * one;
     } catch (const std::exception&) {
         return 0;
     }
 }
 
-/// Called by curl with all that passes. Counts the bytes of the last response's body as they come:
-/// curl itself drops without a word what comes beyond the stated length.
-int countBody(CURL*, curl_infotype type, char* data, std::size_t size, void* counter) noexcept
+/// Called with each whole line of a head. curl takes a head for whole when the connection ends in
+/// it; only the blank line tells.
+std::size_t watchHead(char* data, std::size_t one, std::size_t size, void* arrivals) noexcept
 {
-    auto& count = *static_cast<std::size_t*>(counter);
-    if (type == CURLINFO_HEADER_IN && std::string_view(data, size).starts_with("HTTP/"))
-        count = 0;
-    else if (type == CURLINFO_DATA_IN)
-        count += size;
-    return 0;
+    auto& seen = *static_cast<Arrivals*>(arrivals);
+    const std::string_view line(data, size);
+    if (line.starts_with("HTTP/")) {
+        seen.headCutShort = seen.headCutShort || seen.inHead;
+        seen.inHead = true;
+        seen.bodySize = 0;
+    } else if (line == "\r\n" || line == "\n") {
+        seen.inHead = false;
+    }
+    return size * one;
 }
 
-/// For curl, which takes no deadline; 0 when there is no time left.
-long millisecondsLeft(const Deadline& deadline)
+/// Called with all that passes. Counts the body's bytes as they come: curl itself drops without a
+/// word what comes beyond the stated length.
+int countBody(CURL*, curl_infotype type, char*, std::size_t size, void* arrivals) noexcept
 {
-    using std::chrono::milliseconds;
-    constexpr milliseconds::rep most = std::numeric_limits<int>::max();
-    if (!deadline)
-        return most;
-    const auto left = *deadline - std::chrono::steady_clock::now();
-    return std::clamp<milliseconds::rep>(std::chrono::ceil<milliseconds>(left).count(), 0, most);
+    if (type == CURLINFO_DATA_IN)
+        static_cast<Arrivals*>(arrivals)->bodySize += size;
+    return 0;
 }
 
 void setCertificates(CURL* handle)
@@ -104,16 +115,17 @@ std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCreden
     CURL* const handle = owner.get();
     const std::string url = (address.secure ? "https://" : "http://") + address.host + ":" +
                             std::to_string(address.port) + address.target;
-    HttpResponse response;
+    Arrivals arrivals;
     curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
     curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, keepBody);
-    curl_easy_setopt(handle, CURLOPT_WRITEDATA, &response.body);
-    std::size_t bodySize = 0;
+    curl_easy_setopt(handle, CURLOPT_WRITEDATA, &arrivals);
+    curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, watchHead);
+    curl_easy_setopt(handle, CURLOPT_HEADERDATA, &arrivals);
     curl_easy_setopt(handle, CURLOPT_VERBOSE, 1L);
     curl_easy_setopt(handle, CURLOPT_DEBUGFUNCTION, countBody);
-    curl_easy_setopt(handle, CURLOPT_DEBUGDATA, &bodySize);
+    curl_easy_setopt(handle, CURLOPT_DEBUGDATA, &arrivals);
     setCertificates(handle);
     setDirectConnection(handle);
     if (credentials != nullptr) {
@@ -122,21 +134,23 @@ std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCreden
         curl_easy_setopt(handle, CURLOPT_USERNAME, credentials->user.c_str());
         curl_easy_setopt(handle, CURLOPT_PASSWORD, credentials->password.c_str());
     }
-    const long left = millisecondsLeft(deadline);
+    const int left = deadline ? millisecondsUntil(*deadline) : std::numeric_limits<int>::max();
     if (left == 0)
         return std::nullopt;
     setTimeLimit(handle, left, deadline.has_value());
 
-    if (curl_easy_perform(handle) != CURLE_OK)
+    if (curl_easy_perform(handle) != CURLE_OK || arrivals.inHead || arrivals.headCutShort)
         return std::nullopt;
+    HttpResponse response;
     long status = 0;
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
     response.status = static_cast<int>(status);
     response.location = header(handle, "Location").value_or("");
     if (!header(handle, "Transfer-Encoding"))
         response.contentLength = header(handle, "Content-Length");
-    if (response.contentLength && bodySize > response.body.size())
+    if (response.contentLength && arrivals.bodySize > arrivals.body.size())
         return std::nullopt;
+    response.body = std::move(arrivals.body);
     return response;
 }
 

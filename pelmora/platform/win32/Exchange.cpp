@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <condition_variable>
+#include <limits>
 #include <mutex>
 
 namespace Pelmora::Native::Platform
@@ -98,8 +99,6 @@ Exchange::Exchange(bool secure, const std::wstring& host, INTERNET_PORT port,
                                WINHTTP_NO_PROXY_BYPASS, WINHTTP_FLAG_ASYNC));
     if (session_ == nullptr)
         return;
-    // The deadline alone limits the time.
-    WinHttpSetTimeouts(session_.get(), 0, 0, 0, 0);
     connection_.reset(WinHttpConnect(session_.get(), host.c_str(), port, 0));
     if (connection_ == nullptr)
         return;
@@ -113,7 +112,6 @@ Exchange::Exchange(bool secure, const std::wstring& host, INTERNET_PORT port,
               WINHTTP_DISABLE_REDIRECTS | WINHTTP_DISABLE_COOKIES | WINHTTP_DISABLE_KEEP_ALIVE);
     // Never the name and password of the user who is logged on.
     setOption(request(), WINHTTP_OPTION_AUTOLOGON_POLICY, WINHTTP_AUTOLOGON_SECURITY_LEVEL_HIGH);
-    setOption(request(), WINHTTP_OPTION_RECEIVE_RESPONSE_TIMEOUT, INFINITE);
 
     auto context = reinterpret_cast<DWORD_PTR>(steps_.get()); // NOLINT: WinHTTP's own type for it
     constexpr DWORD notifications =
@@ -129,19 +127,51 @@ Exchange::Exchange(bool secure, const std::wstring& host, INTERNET_PORT port,
 
 Exchange::~Exchange() = default;
 
+/// WinHTTP's own limits end each step by the deadline as well. Closing the handle would not: under
+/// Wine, a step that waits for the server keeps its thread and its connection until it ends.
+bool Exchange::limitStep() const
+{
+    int left = 0; // no limit
+    if (deadline_) {
+        left = millisecondsUntil(*deadline_);
+        if (left == 0)
+            return false;
+    }
+    setOption(request(), WINHTTP_OPTION_RECEIVE_RESPONSE_TIMEOUT,
+              left == 0 ? INFINITE : static_cast<DWORD>(left));
+    return WinHttpSetTimeouts(request(), left, left, left, left) != 0;
+}
+
+template <typename Call>
+bool Exchange::step(DWORD completion, const Call& call)
+{
+    if (!limitStep())
+        return false;
+    steps_->begin();
+    return call() != 0 && steps_->wait(completion, deadline_);
+}
+
 bool Exchange::send(const std::wstring& headers)
 {
     if (request_ == nullptr)
         return false;
     const auto context = reinterpret_cast<DWORD_PTR>(steps_.get()); // NOLINT: as above
-    steps_->begin();
-    if (WinHttpSendRequest(request(), headers.empty() ? nullptr : headers.c_str(),
-                           static_cast<DWORD>(headers.size()), nullptr, 0, 0, context) == 0 ||
-        !steps_->wait(WINHTTP_CALLBACK_STATUS_SENDREQUEST_COMPLETE, deadline_))
-        return false;
-    steps_->begin();
-    return WinHttpReceiveResponse(request(), nullptr) != 0 &&
-           steps_->wait(WINHTTP_CALLBACK_STATUS_HEADERS_AVAILABLE, deadline_);
+    return step(WINHTTP_CALLBACK_STATUS_SENDREQUEST_COMPLETE,
+                [&] {
+                    return WinHttpSendRequest(
+                        request(), headers.empty() ? nullptr : headers.c_str(),
+                        static_cast<DWORD>(headers.size()), nullptr, 0, 0, context);
+                }) &&
+           step(WINHTTP_CALLBACK_STATUS_HEADERS_AVAILABLE,
+                [&] { return WinHttpReceiveResponse(request(), nullptr); }) &&
+           hasWholeHead();
+}
+
+/// Wine takes a head for whole when the connection ends in it; only the blank line tells.
+bool Exchange::hasWholeHead() const
+{
+    const auto head = header(WINHTTP_QUERY_RAW_HEADERS_CRLF);
+    return head && head->ends_with("\r\n\r\n");
 }
 
 DWORD Exchange::status() const
@@ -175,16 +205,20 @@ bool Exchange::readBody(std::string& body)
 {
     // Reads no more than is there: Wine would wait in the call itself for the buffer to fill.
     for (;;) {
-        steps_->begin();
-        if (WinHttpQueryDataAvailable(request(), nullptr) == 0 ||
-            !steps_->wait(WINHTTP_CALLBACK_STATUS_DATA_AVAILABLE, deadline_))
+        if (!step(WINHTTP_CALLBACK_STATUS_DATA_AVAILABLE,
+                  [&] { return WinHttpQueryDataAvailable(request(), nullptr); }))
+            return false;
+        // Wine may count an error, which is -1, as a size.
+        if (steps_->size() > std::numeric_limits<int>::max())
             return false;
         const auto available = std::min<DWORD>(steps_->size(), sizeof steps_->piece);
         if (available == 0)
             return true;
-        steps_->begin();
-        if (WinHttpReadData(request(), steps_->piece.data(), available, nullptr) == 0 ||
-            !steps_->wait(WINHTTP_CALLBACK_STATUS_READ_COMPLETE, deadline_) || steps_->size() == 0)
+        if (!step(WINHTTP_CALLBACK_STATUS_READ_COMPLETE, [&] {
+                return WinHttpReadData(request(), steps_->piece.data(), available, nullptr);
+            }))
+            return false;
+        if (steps_->size() == 0 || steps_->size() > available)
             return false;
         body.append(steps_->piece.data(), steps_->size());
     }

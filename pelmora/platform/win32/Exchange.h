@@ -26,8 +26,8 @@ public:
     Exchange& operator=(const Exchange&) = delete;
     ~Exchange();
 
-    /// Sends the request with these further header lines and receives the response's head. May be
-    /// called again to answer a demand for authentication.
+    /// Sends the request with these further header lines and receives the response's whole head.
+    /// May be called again to answer a demand for authentication, after its body has been read.
     bool send(const std::wstring& headers);
 
     DWORD status() const;
@@ -47,6 +47,12 @@ private:
         void operator()(void* handle) const { WinHttpCloseHandle(handle); }
     };
     using Handle = std::unique_ptr<void, HandleClose>;
+
+    bool limitStep() const;
+    /// Makes a call that WinHTTP completes later; whether it did so, in this way, by the deadline.
+    template <typename Call>
+    bool step(DWORD completion, const Call& call);
+    bool hasWholeHead() const;
 
     std::shared_ptr<Steps> steps_;
     Handle session_;
