@@ -129,7 +129,7 @@ namespace Pelmora.Tests
         [Test]
         public void AValueHasNoTextWithoutAFormat()
         {
-            var value = new UnitValue(13.125, UnitOf(mL, perHr));
+            var value = new UnitValue(13.126, UnitOf(mL, perHr));
             Assert.AreEqual("Pelmora.UnitValue", value.ToString());
             Assert.AreEqual("Pelmora.UnitValue|13.13 mL/hr|13.1 mL/hr",
                 string.Format("{0}|{0:F2}|{0:S3}", value));

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Reflection;
+using System.Runtime.CompilerServices;
 using System.Runtime.InteropServices;
 
 namespace Pelmora.Native
@@ -37,7 +38,7 @@ namespace Pelmora.Native
                 int abi;
                 try
                 {
-                    abi = NativeMethods.pelmora_abi();
+                    abi = NativeAbi();
                 }
                 catch (Exception error) when (error is DllNotFoundException ||
                     error is BadImageFormatException || error is EntryPointNotFoundException)
@@ -50,6 +51,13 @@ namespace Pelmora.Native
                         "version " + NativeMethods.Abi + ": take both from one release.");
                 loaded = true;
             }
+        }
+
+        // Mono looks for a function's library before the method that calls it begins.
+        [MethodImpl(MethodImplOptions.NoInlining)]
+        private static int NativeAbi()
+        {
+            return NativeMethods.pelmora_abi();
         }
 
         private static void Search()
