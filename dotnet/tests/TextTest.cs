@@ -1,6 +1,7 @@
 using System;
 using System.Globalization;
 using System.IO;
+using System.Text;
 using System.Threading;
 using NUnit.Framework;
 
@@ -86,7 +87,10 @@ namespace Pelmora.Tests
             Log.Write("two");
             Log.WriteLine(" words");
             Log.Separator();
-            string log = File.ReadAllText(Log.Path, System.Text.Encoding.GetEncoding("iso-8859-1"));
+            string log;
+            using (var file = new FileStream(Log.Path, FileMode.Open, FileAccess.Read,
+                FileShare.ReadWrite)) // the library goes on writing
+                log = new StreamReader(file, Encoding.GetEncoding("iso-8859-1")).ReadToEnd();
             StringAssert.Contains("one \u00E9lan", log);
             StringAssert.Contains("two words", log);
         }
