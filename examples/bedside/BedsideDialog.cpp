@@ -23,6 +23,7 @@ namespace
 {
 
 using Pelmora::GString;
+using Pelmora::WideView;
 using Pelmora::Native::Font;
 using Translation::tr;
 namespace Native = Pelmora::Native;
@@ -272,9 +273,7 @@ void BedsideDialog::openLink(const NMHDR& notification) const
         (notification.code != NM_CLICK && notification.code != NM_RETURN))
         return;
     const auto& link = reinterpret_cast<const NMLINK&>(notification); // NOLINT: by its code
-    const auto file =
-        L'"' + Native::Formatter::unescape(Native::Formatter::WideStringView(link.item.szUrl)) +
-        L'"';
+    const auto file = L'"' + Native::Formatter::unescape(WideView(link.item.szUrl)) + L'"';
     // Not by the file's kind, which not every system knows how to open.
     ShellExecuteW(window(), nullptr, L"notepad.exe", file.c_str(), nullptr, SW_SHOWNORMAL);
 }

@@ -18,6 +18,7 @@ using Infusions::Order;
 using Infusions::OrderError;
 using Pelmora::GString;
 using Pelmora::UnitValue;
+using Pelmora::WideView;
 using Translation::tr;
 
 UnitValue readField(const FieldTexts& texts, const GString& number, const std::string& unit,
@@ -47,7 +48,7 @@ Order readOrder(const OrderFields& fields)
 /// The reasons are written to stand behind a colon.
 GString sentence(const GString& reason)
 {
-    const GString::View text = reason;
+    const WideView text = reason;
     return GString(text.substr(0, 1)).to_upper() + GString(text.substr(1));
 }
 

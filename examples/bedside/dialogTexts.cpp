@@ -16,6 +16,7 @@ namespace
 {
 
 using Pelmora::GString;
+using Pelmora::WideView;
 using Translation::N_;
 using Translation::tr;
 namespace Native = Pelmora::Native;
@@ -48,7 +49,7 @@ constexpr ControlText controlTexts[] = {
 
 GString escaped(const GString& text)
 {
-    return Native::Formatter::escape(Native::Formatter::WideStringView(text));
+    return Native::Formatter::escape(WideView(text));
 }
 
 /// Markup: "Messages go to the <a href="C:\...">error log</a>".

@@ -15,11 +15,12 @@ namespace
 
 using Infusions::QuantityError;
 using Pelmora::GString;
+using Pelmora::WideView;
 using Translation::tr;
 
-GString::View trimmed(const GString& text)
+WideView trimmed(const GString& text)
 {
-    return Infusions::trimmed(GString::View(text), GString::is_space);
+    return Infusions::trimmed(WideView(text), GString::is_space);
 }
 
 /// Where the decimal sign is a comma, a point may separate thousands.
@@ -32,11 +33,11 @@ bool hasDecimalComma()
 }
 
 /// "2.500" and "70.000", but not "0.125": no thousands begin with a nought.
-bool looksLikeThousands(GString::View number)
+bool looksLikeThousands(WideView number)
 {
     constexpr std::size_t digitsOfThousands = 3;
     const std::size_t point = number.find(u'.');
-    return point != GString::View::npos && point > 0 && number.front() != u'0' &&
+    return point != WideView::npos && point > 0 && number.front() != u'0' &&
            number.size() - point - 1 == digitsOfThousands;
 }
 
@@ -55,9 +56,9 @@ bool isBlank(const GString& text)
 
 std::string plainNumber(const GString& text)
 {
-    const GString::View view = trimmed(text);
+    const WideView view = trimmed(text);
     const GString number = view;
-    if (view.find(u',') != GString::View::npos)
+    if (view.find(u',') != WideView::npos)
         refuse("'%s' has a comma; write numbers like 2500 or 2.5", number);
     const auto digits = std::count_if(view.begin(), view.end(), GString::is_digit);
     const auto points = std::count(view.begin(), view.end(), u'.');

@@ -8,6 +8,7 @@ namespace
 {
 
 using Pelmora::GString;
+using Pelmora::WideString;
 
 LRESULT send(HWND dialog, int control, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -24,7 +25,7 @@ WPARAM selectedRow(HWND dialog, int comboBox)
 GString textOf(HWND dialog, int control)
 {
     const HWND window = GetDlgItem(dialog, control);
-    GString::Text text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    WideString text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<std::size_t>(
         GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;

@@ -9,6 +9,7 @@ namespace
 {
 
 using Pelmora::GString;
+using Pelmora::WideString;
 
 /// Characters that take two columns of a terminal, the wide ones of the Unicode Standard's
 /// annex 11.
@@ -36,7 +37,7 @@ std::size_t width(const GString& text)
 
 GString repeated(char unit, std::size_t count)
 {
-    return GString::Text(count, static_cast<GString::Text::value_type>(unit));
+    return WideString(count, static_cast<WideString::value_type>(unit));
 }
 
 } // namespace

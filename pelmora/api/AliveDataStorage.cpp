@@ -1,6 +1,6 @@
 #include "pelmora/api/AliveDataStorage.h"
 
-#include "pelmora/gettext/NeverDestroyed.h"
+#include "pelmora/base/detail/NeverDestroyed.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "pelmora/base/SourceLocation.h"
+#include "pelmora/export.h"
 #include "pelmora/gettext/gstringUtil.h"
-#include "pelmora/platform/export.h"
-#include "pelmora/platform/sourceLocation.h"
 
 #include <stdexcept>
 #include <string>
@@ -18,9 +18,8 @@ class PELMORA_API Exception : public std::runtime_error
 public:
     /// `source` names the application or object that raises it. The function that makes the
     /// exception is its target site, and the calls that led there are its stack.
-    explicit Exception(
-        const GString& message, const GString& source = {},
-        const Native::Platform::SourceLocation& site = Native::Platform::SourceLocation::current())
+    explicit Exception(const GString& message, const GString& source = {},
+                       const Native::SourceLocation& site = Native::SourceLocation::current())
         : Exception(message, source, site.function_name())
     {
     }

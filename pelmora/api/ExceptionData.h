@@ -2,8 +2,8 @@
 
 #include "pelmora/api/Exception.h"
 #include "pelmora/api/Vocabulary.h"
+#include "pelmora/export.h"
 #include "pelmora/gettext/gstringUtil.h"
-#include "pelmora/platform/export.h"
 
 #include <chrono>
 #include <exception>

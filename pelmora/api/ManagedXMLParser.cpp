@@ -1,7 +1,7 @@
 #include "pelmora/api/ManagedXMLParser.h"
 
 #include "pelmora/api/NullReferenceError.h"
-#include "pelmora/gettext/NeverDestroyed.h"
+#include "pelmora/base/detail/NeverDestroyed.h"
 #include "pelmora/platform/wholeFile.h"
 #include "pelmora/platform/xmlDocument.h"
 

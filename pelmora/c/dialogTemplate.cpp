@@ -56,9 +56,9 @@ pelmora_status pelmora_dialog_template_set_caption(pelmora_dialog_template* dial
 {
     return change(dialog, [&](Native::DialogTemplate& native) {
         constexpr size_t longest = 255;
-        const GString::View text = requiredText(caption, "caption");
+        const WideView text = requiredText(caption, "caption");
         native.setCaption(text);
-        return GString::View(native.getCaption()) == text.substr(0, longest);
+        return WideView(native.getCaption()) == text.substr(0, longest);
     });
 }
 

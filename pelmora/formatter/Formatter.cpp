@@ -185,7 +185,7 @@ std::string escape(std::string_view text)
     return escaped(text);
 }
 
-WideString escape(WideStringView text)
+WideString escape(WideView text)
 {
     return escaped(text);
 }
@@ -195,7 +195,7 @@ std::string unescape(std::string_view text)
     return unescaped(text);
 }
 
-WideString unescape(WideStringView text)
+WideString unescape(WideView text)
 {
     return unescaped(text);
 }
@@ -205,7 +205,7 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
     return replaced(text, from, to);
 }
 
-WideString replaceAll(WideStringView text, WideStringView from, WideStringView to)
+WideString replaceAll(WideView text, WideView from, WideView to)
 {
     return replaced(text, from, to);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pelmora/platform/export.h"
-#include "pelmora/platform/wideChar.h"
+#include "pelmora/base/wideChar.h"
+#include "pelmora/export.h"
 
 #include <string>
 #include <string_view>
@@ -13,23 +13,20 @@
 namespace Pelmora::Native::Formatter
 {
 
-using WideString = std::basic_string<WideChar>;
-using WideStringView = std::basic_string_view<WideChar>;
-
 /// The characters & > " ' < replaced by the entities &amp; &gt; &quot; &apos; &lt;. Text that is
 /// escaped already is escaped again: `unescape(escape(s))` is s for every s.
 PELMORA_API std::string escape(std::string_view text);
-PELMORA_API WideString escape(WideStringView text);
+PELMORA_API WideString escape(WideView text);
 
 /// These five entities replaced by their characters, once: "&amp;lt;" gives "&lt;". Character
 /// references such as "&#60;" and a lone "&" stay as they are.
 PELMORA_API std::string unescape(std::string_view text);
-PELMORA_API WideString unescape(WideStringView text);
+PELMORA_API WideString unescape(WideView text);
 
 /// Every occurrence of `from` in `text` replaced by `to`, searched from the start, without overlap
 /// and not in what was put in. An empty `from` occurs nowhere.
 PELMORA_API std::string replaceAll(std::string_view text, std::string_view from,
                                    std::string_view to);
-PELMORA_API WideString replaceAll(WideStringView text, WideStringView from, WideStringView to);
+PELMORA_API WideString replaceAll(WideView text, WideView from, WideView to);
 
 } // namespace Pelmora::Native::Formatter

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pelmora/platform/wideChar.h"
+#include "pelmora/base/wideChar.h"
 
 #include <concepts>
 #include <cstdint>
@@ -23,8 +23,7 @@ public:
         std::uint64_t bits; ///< sign-extended for a signed type
         bool is64;
     };
-    using WideText = std::basic_string<WideChar>;
-    using Value = std::variant<Integer, double, std::string_view, WideText, const void*>;
+    using Value = std::variant<Integer, double, std::string_view, WideString, const void*>;
 
     // NOLINTBEGIN(google-explicit-constructor): an argument stands for its value
     template <class T>
@@ -39,7 +38,7 @@ public:
     FormatArgument(std::string_view text) : value_(text) {}
     template <class Unit>
     requires std::same_as<Unit, WideChar> || std::same_as<Unit, char16_t>
-    FormatArgument(std::basic_string_view<Unit> text) : value_(WideText(text.begin(), text.end()))
+    FormatArgument(std::basic_string_view<Unit> text) : value_(WideString(text.begin(), text.end()))
     {
     }
     template <class Unit>
@@ -49,11 +48,11 @@ public:
     }
     template <class Unit>
     requires std::same_as<Unit, WideChar> || std::same_as<Unit, char16_t>
-    FormatArgument(const Unit* text) : value_(WideText())
+    FormatArgument(const Unit* text) : value_(WideString())
     {
         constexpr Unit null[] = {'(', 'n', 'u', 'l', 'l', ')', 0};
         const std::basic_string_view<Unit> view(text == nullptr ? null : text);
-        value_ = WideText(view.begin(), view.end());
+        value_ = WideString(view.begin(), view.end());
     }
     FormatArgument(const void* pointer) : value_(pointer) {}
     // NOLINTEND(google-explicit-constructor)

@@ -1,6 +1,6 @@
 #include "pelmora/gettext/TextLocale.h"
 
-#include "pelmora/gettext/NeverDestroyed.h"
+#include "pelmora/base/detail/NeverDestroyed.h"
 #include "pelmora/log/LogStream.h"
 #include "pelmora/units/unitText.h"
 

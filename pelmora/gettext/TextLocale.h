@@ -1,8 +1,8 @@
 #pragma once
 
+#include "pelmora/export.h"
 #include "pelmora/gettext/Catalogue.h"
 #include "pelmora/gettext/gstringUtil.h"
-#include "pelmora/platform/export.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
 #include "pelmora/gettext/gstringUtil.h"
 
-#include "pelmora/gettext/NeverDestroyed.h"
+#include "pelmora/base/detail/NeverDestroyed.h"
 #include "pelmora/gettext/printfFormat.h"
 #include "pelmora/gettext/utf8.h"
 #include "pelmora/platform/codePages.h"
@@ -26,7 +26,7 @@ bool containsAscii(unsigned int codePage)
            (codePage >= 1250 && codePage <= 1258);
 }
 
-bool isAscii(GString::View text)
+bool isAscii(WideView text)
 {
     return std::all_of(text.begin(), text.end(), [](WideChar unit) { return unit < 0x80; });
 }
@@ -50,25 +50,25 @@ std::basic_string<Char> takenResult(Platform::ConversionStatus status,
     return std::move(buffer);
 }
 
-GString::Text widened(std::string_view narrow, unsigned int codePage)
+WideString widened(std::string_view narrow, unsigned int codePage)
 {
     const std::size_t room = 2 * narrow.size(); // also for text that begins with its NUL
     narrow = upToNul(narrow);
     if (containsAscii(codePage) && asciiPrefix(narrow) == narrow.size())
         return {narrow.begin(), narrow.end()};
     const std::string terminated(narrow);
-    GString::Text buffer(room, 0);
+    WideString buffer(room, 0);
     const auto status = Platform::decode(codePage, terminated.c_str(), buffer);
     return takenResult(status, std::move(buffer));
 }
 
-bool equals(GString::View text, std::u16string_view other)
+bool equals(WideView text, std::u16string_view other)
 {
     return std::equal(text.begin(), text.end(), other.begin(), other.end());
 }
 
 template <class Mapping>
-GString mapped(GString::Text text, Mapping mapping)
+GString mapped(WideString text, Mapping mapping)
 {
     for (WideChar& unit : text)
         unit = static_cast<WideChar>(mapping(static_cast<std::wint_t>(unit)));
@@ -111,7 +111,7 @@ TemporaryStrings& temporaryStrings()
 } // namespace
 
 GString::GString(std::string_view narrow, unsigned int codePage)
-    : text_(narrow.empty() ? Text() : widened(narrow, codePage))
+    : text_(narrow.empty() ? WideString() : widened(narrow, codePage))
 {
 }
 
@@ -119,7 +119,7 @@ GString GString::from_utf8(std::string_view utf8)
 {
     // Too few for a supplementary character, on purpose: a unit is all that a character may need.
     constexpr int longestSequence = 3;
-    Text text;
+    WideString text;
     text.reserve(utf8.size());
     while (!utf8.empty()) {
         const std::size_t ascii = asciiPrefix(utf8);
@@ -143,7 +143,7 @@ std::string GString::to_narrow(unsigned int codePage) const
         return {};
     if (codePage == utf8CodePage)
         return to_utf8();
-    const View text = upToNul(View(text_));
+    const WideView text = upToNul(WideView(text_));
     if (containsAscii(codePage) && isAscii(text)) {
         std::string narrow(text.size(), '\0');
         std::transform(text.begin(), text.end(), narrow.begin(),
@@ -235,7 +235,7 @@ std::int32_t GString::to_long(bool* ok) const noexcept
 GString GString::from_bool(bool value)
 {
     const std::u16string_view text = value ? trueText : falseText;
-    return Text(text.begin(), text.end());
+    return WideString(text.begin(), text.end());
 }
 
 bool GString::to_bool(bool* ok) const noexcept
@@ -254,15 +254,15 @@ GString GString::fromArgument(const FormatArgument& number, std::string_view for
     return GString(std::string_view(buffer.data(), used));
 }
 
-GString GString::formatted(View format, std::span<const FormatArgument> arguments)
+GString GString::formatted(WideView format, std::span<const FormatArgument> arguments)
 {
     std::array<WideChar, 512> small;
     const std::ptrdiff_t length = formatInto<WideChar>(small, format, arguments);
     if (length >= 0)
-        return View(small.data(), static_cast<std::size_t>(length));
+        return WideView(small.data(), static_cast<std::size_t>(length));
 
     constexpr std::size_t largeSize = 65536;
-    Text large(largeSize, 0);
+    WideString large(largeSize, 0);
     const std::ptrdiff_t largeLength =
         formatInto<WideChar>(std::span(large).first(largeSize - 1), format, arguments);
     if (largeLength >= 0)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "pelmora/base/wideChar.h"
+#include "pelmora/export.h"
 #include "pelmora/gettext/FormatArgument.h"
-#include "pelmora/platform/export.h"
-#include "pelmora/platform/wideChar.h"
 
 #include <array>
 #include <compare>
@@ -38,14 +38,13 @@ concept Utf16Unit = std::same_as<T, WideChar> || std::same_as<T, char16_t>;
 class PELMORA_API GString
 {
 public:
-    using Text = std::basic_string<WideChar>;
-    using View = std::basic_string_view<WideChar>;
-    using const_iterator = Text::const_iterator;
+    using const_iterator = WideString::const_iterator;
 
     GString() noexcept = default;
-    GString(const Text& text) : text_(text) {}                // NOLINT(google-explicit-constructor)
-    GString(Text&& text) noexcept : text_(std::move(text)) {} // NOLINT(google-explicit-constructor)
-    GString(View text) : text_(text) {}                       // NOLINT(google-explicit-constructor)
+    GString(const WideString& text) : text_(text) {} // NOLINT(google-explicit-constructor)
+    GString(WideString&& text) noexcept
+        : text_(std::move(text)) {}         // NOLINT(google-explicit-constructor)
+    GString(WideView text) : text_(text) {} // NOLINT(google-explicit-constructor)
     template <Utf16Unit Unit>
     GString(const Unit* text) // NOLINT(google-explicit-constructor): a literal is a text
         : GString(std::basic_string_view<Unit>(text))
@@ -128,8 +127,8 @@ public:
     /// The character that stands for unencodable ones in the ANSI code page, as a 16-bit value.
     static char16_t default_char() noexcept;
 
-    const Text& text() const noexcept { return text_; }
-    operator View() const noexcept { return text_; } // NOLINT(google-explicit-constructor)
+    const WideString& text() const noexcept { return text_; }
+    operator WideView() const noexcept { return text_; } // NOLINT(google-explicit-constructor)
     std::size_t size() const noexcept { return text_.size(); }
     bool empty() const noexcept { return text_.empty(); }
     const_iterator begin() const noexcept { return text_.begin(); }
@@ -156,14 +155,14 @@ private:
     static FormatArgument argumentOf(const T& value)
     {
         if constexpr (std::is_same_v<T, GString>)
-            return View(value);
+            return WideView(value);
         else
             return value;
     }
     static GString fromArgument(const FormatArgument& number, std::string_view format);
-    static GString formatted(View format, std::span<const FormatArgument> arguments);
+    static GString formatted(WideView format, std::span<const FormatArgument> arguments);
 
-    Text text_;
+    WideString text_;
 };
 
 } // namespace Pelmora::Native
@@ -172,5 +171,7 @@ namespace Pelmora
 {
 
 using Native::GString;
+using Native::WideString;
+using Native::WideView;
 
 } // namespace Pelmora

@@ -183,7 +183,7 @@ std::basic_string<Char> converted(std::string_view narrow)
 }
 
 template <class Char>
-std::basic_string<Char> converted(const FormatArgument::WideText& wide)
+std::basic_string<Char> converted(const WideString& wide)
 {
     if constexpr (std::is_same_v<Char, char>)
         return GString(wide).to_narrow();
@@ -225,7 +225,7 @@ std::optional<std::basic_string<Char>> convertedArgument(const Conversion& conve
         std::optional<std::basic_string<Char>> text;
         if (const auto* narrow = std::get_if<std::string_view>(&value))
             text = converted<Char>(*narrow);
-        if (const auto* wide = std::get_if<FormatArgument::WideText>(&value))
+        if (const auto* wide = std::get_if<WideString>(&value))
             text = converted<Char>(*wide);
         if (text && conversion.precision)
             text->resize(std::min(text->size(), static_cast<std::size_t>(*conversion.precision)));
@@ -292,7 +292,7 @@ std::ptrdiff_t formatInto(std::span<Char> buffer, std::basic_string_view<Char> f
 
 template std::ptrdiff_t formatInto<char>(std::span<char>, std::string_view,
                                          std::span<const FormatArgument>);
-template std::ptrdiff_t formatInto<WideChar>(std::span<WideChar>, std::basic_string_view<WideChar>,
+template std::ptrdiff_t formatInto<WideChar>(std::span<WideChar>, WideView,
                                              std::span<const FormatArgument>);
 
 } // namespace Pelmora::Native

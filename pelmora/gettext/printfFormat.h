@@ -21,8 +21,7 @@ std::ptrdiff_t formatInto(std::span<Char> buffer, std::basic_string_view<Char> f
 
 extern template std::ptrdiff_t formatInto<char>(std::span<char>, std::string_view,
                                                 std::span<const FormatArgument>);
-extern template std::ptrdiff_t formatInto<WideChar>(std::span<WideChar>,
-                                                    std::basic_string_view<WideChar>,
+extern template std::ptrdiff_t formatInto<WideChar>(std::span<WideChar>, WideView,
                                                     std::span<const FormatArgument>);
 
 } // namespace Pelmora::Native

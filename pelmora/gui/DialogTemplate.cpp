@@ -23,14 +23,14 @@ std::optional<DialogParts> partsOf(std::span<const std::byte> buffer, std::int32
 
 GString readText(std::span<const std::byte> bytes, std::size_t at, std::size_t length)
 {
-    GString::Text text(length, 0);
+    WideString text(length, 0);
     for (std::size_t i = 0; i < length; ++i)
         text[i] = static_cast<WideChar>(readNumber<std::uint16_t>(bytes, at + 2 * i));
     return text;
 }
 
 /// With a NUL behind it.
-void writeText(std::span<std::byte> bytes, std::size_t at, GString::View text)
+void writeText(std::span<std::byte> bytes, std::size_t at, WideView text)
 {
     for (std::size_t i = 0; i <= text.size(); ++i)
         writeNumber(bytes, at + 2 * i,
@@ -86,7 +86,7 @@ void DialogTemplate::setCaption(const GString& caption)
     const auto parts = partsOf(buffer_, size_);
     if (!parts)
         return;
-    GString::View text = caption;
+    WideView text = caption;
     text = text.substr(0, text.find(WideChar(0)));
     const auto growthTo = [&](std::size_t length) {
         return 2 * (static_cast<std::ptrdiff_t>(length) -

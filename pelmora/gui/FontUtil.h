@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pelmora/export.h"
 #include "pelmora/gettext/gstringUtil.h"
-#include "pelmora/platform/export.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pelmora/export.h"
 #include "pelmora/gui/DialogTemplate.h"
-#include "pelmora/platform/export.h"
 
 #include <exception>
 #include <optional>

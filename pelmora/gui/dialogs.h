@@ -1,8 +1,8 @@
 #pragma once
 
+#include "pelmora/export.h"
 #include "pelmora/gui/DialogTemplate.h"
 #include "pelmora/gui/ModalDialog.h"
-#include "pelmora/platform/export.h"
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
 #include "pelmora/log/LogStream.h"
 
-#include "pelmora/gettext/NeverDestroyed.h"
+#include "pelmora/base/detail/NeverDestroyed.h"
 #include "pelmora/gettext/TextLocale.h"
 #include "pelmora/log/osVersion.h"
 #include "pelmora/platform/localTime.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pelmora/export.h"
 #include "pelmora/log/LogInterface.h"
-#include "pelmora/platform/export.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -1,6 +1,7 @@
 #include "pelmora/log/osVersion.h"
 
 #include "pelmora/log/LogStream.h"
+#include "pelmora/platform/systemVersion.h"
 
 #include <optional>
 #include <variant>
@@ -9,8 +10,6 @@ namespace Pelmora::Native
 {
 namespace
 {
-
-using Platform::OsVersion;
 
 constexpr std::uint32_t platformWindowsNt = 2;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pelmora/platform/wideChar.h"
+#include "pelmora/base/wideChar.h"
 
 #include <cstddef>
 #include <span>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pelmora/platform/wideChar.h"
+#include "pelmora/base/wideChar.h"
 
 #include <string>
 #include <string_view>
@@ -14,16 +14,14 @@
 namespace Pelmora::Native::Platform
 {
 
-using FileName = std::basic_string<WideChar>;
-
 /// Replaces `bytes` by the file's content; after an error they hold nothing of use.
-std::error_code readWholeFile(const FileName& name, std::string& bytes);
+std::error_code readWholeFile(const WideString& name, std::string& bytes);
 
 /// A file that is not there is no error; a folder is never deleted.
-std::error_code deleteFile(const FileName& name);
+std::error_code deleteFile(const WideString& name);
 
 /// Makes or truncates the file. One that could not be written to its end is deleted, because nobody
 /// could tell it from a whole one.
-std::error_code writeWholeFile(const FileName& name, std::string_view bytes);
+std::error_code writeWholeFile(const WideString& name, std::string_view bytes);
 
 } // namespace Pelmora::Native::Platform

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pelmora/platform/wideChar.h"
+#include "pelmora/base/wideChar.h"
 
 #include <memory>
 #include <string>
@@ -21,9 +21,6 @@ namespace Pelmora::Native::Platform
 class XmlDocument
 {
 public:
-    using Text = std::basic_string<WideChar>;
-    using View = std::basic_string_view<WideChar>;
-
     XmlDocument();
     XmlDocument(const XmlDocument&) = delete;
     XmlDocument& operator=(const XmlDocument&) = delete;
@@ -31,7 +28,7 @@ public:
 
     /// Whether the text is well-formed; the document is left empty when not. An encoding that the
     /// text declares means nothing. Requires: the document is empty.
-    bool parseText(View text);
+    bool parseText(WideView text);
 
     /// The same for a file's bytes in the encoding that they begin with or declare, or in UTF-8.
     bool parseBytes(std::string_view bytes);
@@ -39,15 +36,15 @@ public:
     bool hasRoot() const;
 
     /// The value of the root's attribute of that qualified name, or "". Requires: hasRoot().
-    Text rootAttribute(const Text& name) const;
+    WideString rootAttribute(const WideString& name) const;
 
     /// The first node in document order that the XPath 1.0 expression selects, with its tags; ""
     /// when there is none or the expression is not one for nodes.
-    Text firstSelected(const Text& expression) const;
+    WideString firstSelected(const WideString& expression) const;
 
     /// All text within the first element of that qualified name as it is written in the document,
     /// "*" for any; "" when there is none.
-    Text textOfFirst(const Text& name) const;
+    WideString textOfFirst(const WideString& name) const;
 
 private:
     struct Content;

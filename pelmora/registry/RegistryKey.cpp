@@ -183,7 +183,7 @@ GString RegistryKey::readWideString(const std::string& name, const GString& fall
     const Bytes value = queryRaw(name, REG_BINARY);
     if (value.data == nullptr)
         return fallback;
-    GString::Text text(value.size / sizeof(WideChar), 0);
+    WideString text(value.size / sizeof(WideChar), 0);
     if (!text.empty())
         std::memcpy(text.data(), value.data.get(), text.size() * sizeof(WideChar));
     return text;

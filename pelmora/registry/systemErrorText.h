@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pelmora/platform/export.h"
+#include "pelmora/export.h"
 
 #include <cstdint>
 #include <string>

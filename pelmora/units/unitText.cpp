@@ -86,7 +86,7 @@ public:
     GString take()
     {
         if (flushed_.empty())
-            return GString::View(units_.data(), used_);
+            return WideView(units_.data(), used_);
         flush();
         return std::move(flushed_);
     }
@@ -100,7 +100,7 @@ private:
 
     std::array<WideChar, 128> units_;
     std::size_t used_ = 0;
-    GString::Text flushed_;
+    WideString flushed_;
 };
 
 void appendPower(TextBuilder& text, std::int64_t exponent)

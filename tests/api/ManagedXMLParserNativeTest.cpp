@@ -47,7 +47,7 @@ TEST(Attributes, ManyOfThemAndTheirDefaultsEndSoon)
     GString many;
     for (int i = 0; i < 30000; ++i)
         many += GString::format(u" a%d=''", i);
-    const GString longDefault(GString::Text(1U << 20U, 'x'));
+    const GString longDefault(Pelmora::WideString(1U << 20U, 'x'));
     GString elements;
     for (int i = 0; i < 1500; ++i)
         elements += u"<e/>";

@@ -179,8 +179,8 @@ TEST(ManagedXMLParser, MalformedTextGivesFalseAndForgetsTheDocument)
         u"<!DOCTYPE a [<!ENTITY e SYSTEM 'none'>]><a b='&e;'/>",
         // characters
         u"<a>\u0001</a>", u"<a>\uFFFE</a>", u"<a>]]></a>",
-        GString(GString::Text{'<', 'a', '/', '>', 0}),
-        GString(GString::Text{'<', 'a', '>', 0xD83D, '<', '/', 'a', '>'}),
+        GString(Pelmora::WideString{'<', 'a', '/', '>', 0}),
+        GString(Pelmora::WideString{'<', 'a', '>', 0xD83D, '<', '/', 'a', '>'}),
         // CDATA, comments and processing instructions
         u"<a><![CDATA[</a>", u"<a><![cdata[x]]></a>", u"<![CDATA[x]]>", u"<a><!-- -- --></a>",
         u"<a><!-- </a>", u"<a><?xml version='1.0'?></a>", u"<a><? x?></a>", u"<a><?x</a>",
@@ -239,7 +239,7 @@ TEST(ManagedXMLParser, HostileDocumentsEndSoon)
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
     EXPECT_TRUE(parser.parseFromString(repeated(u"<a>", 200) + repeated(u"</a>", 200)));
 
-    const GString large(GString::Text(50U << 20U, 'x'));
+    const GString large(Pelmora::WideString(50U << 20U, 'x'));
     EXPECT_TRUE(parser.parseFromString(u"<a>" + large + u"</a>"));
 }
 

@@ -61,8 +61,8 @@ TEST(CodePages, ConversionsEndAtTheFirstNul)
     EXPECT_EQ(GString(std::string_view("ab\0cd", 5)), u"ab");
     EXPECT_EQ(GString(std::string_view("\xE9\0cd", 4), 932), GString("\xE9", 932));
     EXPECT_EQ(GString(std::string_view("\0\xE9", 2), 932), u"");
-    EXPECT_EQ(GString(GString::Text{'a', 0, 'b'}).to_narrow(), "a");
-    EXPECT_EQ(GString(GString::Text{0xE9, 0, 'b'}).to_narrow(), "\xE9");
+    EXPECT_EQ(GString(WideString{'a', 0, 'b'}).to_narrow(), "a");
+    EXPECT_EQ(GString(WideString{0xE9, 0, 'b'}).to_narrow(), "\xE9");
 }
 
 } // namespace

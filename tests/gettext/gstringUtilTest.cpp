@@ -34,7 +34,7 @@ TEST(GString, ToLong)
         {u"2147483648", 2147483647, true},
         {u"-2147483648", -2147483647 - 1, true},
         {u"-99999999999999999999", -2147483647 - 1, true},
-        {GString::Text{'4', 0, '2'}, 4, false},
+        {WideString{'4', 0, '2'}, 4, false},
     };
     for (const auto& row : rows) {
         bool ok = !row.ok;

@@ -57,12 +57,12 @@ TEST(Format, WhatDoesNotFitIsWrittenAsItStands)
 TEST(Format, LongResults)
 {
     for (const std::size_t length : {511U, 512U, 513U, 65535U}) {
-        const GString text(GString::Text(length, 'x'));
+        const GString text(WideString(length, 'x'));
         EXPECT_EQ(GString::format(u"%s", text), text) << length;
     }
-    GString::Text cut(65535, 'x');
+    WideString cut(65535, 'x');
     cut += WideChar(0);
-    EXPECT_EQ(GString::format(u"%s", GString(GString::Text(70000, 'x'))), cut);
+    EXPECT_EQ(GString::format(u"%s", GString(WideString(70000, 'x'))), cut);
     EXPECT_EQ(GString::format(u"%2000000000d", 1).size(), 65536U);
     EXPECT_EQ(GString::format(u"%.2000000000f", 1.0).size(), 65536U);
 }
@@ -76,7 +76,7 @@ TEST(Format, Numbers)
     EXPECT_EQ(GString::from_number(1234.5, "%.3e \xB5g"), u"1.234e+03 \u00B5g");
     EXPECT_EQ(GString::from_number(5UL, "%s"), u"%s");
     EXPECT_EQ(GString::from_number(1, "%050d").size(), 50U);
-    EXPECT_EQ(GString::from_number(1, "%051d"), GString(GString::Text(50, '0')));
+    EXPECT_EQ(GString::from_number(1, "%051d"), GString(WideString(50, '0')));
 }
 
 } // namespace

@@ -65,7 +65,7 @@ TEST(Utf8, TextsReadBack)
          "2345678\xE3\x82\xA2",
          u"12345678\u00E92345678\u30A2"},
         {"\xED\xA0\xBD\xED\xB8\x80", u"\xD83D\xDE00"},
-        {std::string("a\0b", 3), GString::Text{'a', 0, 'b'}},
+        {std::string("a\0b", 3), WideString{'a', 0, 'b'}},
     };
     for (const auto& [utf8, text] : rows) {
         EXPECT_EQ(GString::from_utf8(utf8), text);

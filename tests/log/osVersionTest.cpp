@@ -11,7 +11,7 @@ namespace
 
 TEST(OsVersion, Descriptions)
 {
-    const std::tuple<Platform::OsVersion, const char*> rows[] = {
+    const std::tuple<OsVersion, const char*> rows[] = {
         {{0, 3, 11, 5, ""}, "Win32s"},
         {{1, 4, 0, 950, ""}, "Windows 95"},
         {{1, 4, 0, 950, " C"}, "Windows 95 OSR2"},

@@ -1,7 +1,7 @@
 // The import pointers of three functions are defined here, so that the library calls these instead.
 
 #include "pelmora/log/osVersion.h"
-#include "pelmora/platform/osVersion.h"
+#include "pelmora/platform/systemVersion.h"
 #include "pelmora/platform/temporaryFolder.h"
 #include "pelmora/platform/wholeFile.h"
 

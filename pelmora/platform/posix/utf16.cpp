@@ -29,7 +29,7 @@ void appendUtf8(std::string& result, std::uint32_t character)
     }
 }
 
-void appendUtf16(std::basic_string<WideChar>& result, std::uint32_t character)
+void appendUtf16(WideString& result, std::uint32_t character)
 {
     if (character < 0x10000) {
         result += static_cast<WideChar>(character);
@@ -42,7 +42,7 @@ void appendUtf16(std::basic_string<WideChar>& result, std::uint32_t character)
 
 } // namespace
 
-std::string toUtf8(std::basic_string_view<WideChar> text)
+std::string toUtf8(WideView text)
 {
     std::string result;
     result.reserve(text.size());
@@ -57,9 +57,9 @@ std::string toUtf8(std::basic_string_view<WideChar> text)
     return result;
 }
 
-std::basic_string<WideChar> toUtf16(std::string_view utf8)
+WideString toUtf16(std::string_view utf8)
 {
-    std::basic_string<WideChar> result;
+    WideString result;
     result.reserve(utf8.size());
     for (std::size_t i = 0; i < utf8.size();) {
         const auto lead = static_cast<unsigned char>(utf8[i++]);

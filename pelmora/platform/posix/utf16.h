@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pelmora/platform/wideChar.h"
+#include "pelmora/base/wideChar.h"
 
 #include <string>
 #include <string_view>
@@ -13,9 +13,9 @@ namespace Pelmora::Native::Platform
 
 /// A surrogate that is not part of a pair becomes three bytes, which no UTF-8 decoder accepts, so
 /// that whoever gets them refuses the text instead of reading another one.
-std::string toUtf8(std::basic_string_view<WideChar> text);
+std::string toUtf8(WideView text);
 
 /// Requires: well-formed UTF-8. Of other bytes, what is read is not defined, but harmless.
-std::basic_string<WideChar> toUtf16(std::string_view utf8);
+WideString toUtf16(std::string_view utf8);
 
 } // namespace Pelmora::Native::Platform

@@ -26,7 +26,7 @@ std::error_code lastError()
 
 } // namespace
 
-std::error_code readWholeFile(const FileName& name, std::string& bytes)
+std::error_code readWholeFile(const WideString& name, std::string& bytes)
 {
     const File file(std::fopen(toUtf8(name).c_str(), "rb"));
     if (file == nullptr)
@@ -38,14 +38,14 @@ std::error_code readWholeFile(const FileName& name, std::string& bytes)
     return std::ferror(file.get()) != 0 ? lastError() : std::error_code();
 }
 
-std::error_code deleteFile(const FileName& name)
+std::error_code deleteFile(const WideString& name)
 {
     if (unlink(toUtf8(name).c_str()) == 0 || errno == ENOENT)
         return {};
     return lastError();
 }
 
-std::error_code writeWholeFile(const FileName& name, std::string_view bytes)
+std::error_code writeWholeFile(const WideString& name, std::string_view bytes)
 {
     const std::string path = toUtf8(name);
     File file(std::fopen(path.c_str(), "wb"));

@@ -55,7 +55,7 @@ xmlNode* following(xmlNode* node, const xmlNode* top)
 }
 
 /// The node as XML, with the namespaces that it has from outside.
-XmlDocument::Text outerXml(xmlNode* node)
+WideString outerXml(xmlNode* node)
 {
     const Tree ownTree(xmlNewDoc(nullptr));
     if (ownTree == nullptr)
@@ -90,7 +90,7 @@ XmlDocument::XmlDocument() : content_(std::make_unique<Content>()) {}
 
 XmlDocument::~XmlDocument() = default;
 
-bool XmlDocument::parseText(View text)
+bool XmlDocument::parseText(WideView text)
 {
     content_->tree = readXml(toUtf8(text), "UTF-8");
     return content_->tree != nullptr;
@@ -107,7 +107,7 @@ bool XmlDocument::hasRoot() const
     return content_->tree != nullptr;
 }
 
-XmlDocument::Text XmlDocument::rootAttribute(const Text& name) const
+WideString XmlDocument::rootAttribute(const WideString& name) const
 {
     const std::string wanted = toUtf8(name);
     xmlNode* root = xmlDocGetRootElement(content_->tree.get());
@@ -127,9 +127,9 @@ XmlDocument::Text XmlDocument::rootAttribute(const Text& name) const
     return {};
 }
 
-XmlDocument::Text XmlDocument::firstSelected(const Text& expression) const
+WideString XmlDocument::firstSelected(const WideString& expression) const
 {
-    if (!hasRoot() || expression.find(WideChar(0)) != Text::npos)
+    if (!hasRoot() || expression.find(WideChar(0)) != WideString::npos)
         return {};
     const std::unique_ptr<xmlXPathContext, ContextFree> context(
         xmlXPathNewContext(content_->tree.get()));
@@ -144,7 +144,7 @@ XmlDocument::Text XmlDocument::firstSelected(const Text& expression) const
     return outerXml(xmlXPathNodeSetItem(result->nodesetval, 0));
 }
 
-XmlDocument::Text XmlDocument::textOfFirst(const Text& name) const
+WideString XmlDocument::textOfFirst(const WideString& name) const
 {
     if (!hasRoot())
         return {};

@@ -13,7 +13,7 @@ namespace
 class File
 {
 public:
-    File(const FileName& name, DWORD access, DWORD sharing, DWORD disposition)
+    File(const WideString& name, DWORD access, DWORD sharing, DWORD disposition)
         : handle_(CreateFileW(name.c_str(), access, sharing, nullptr, disposition,
                               FILE_ATTRIBUTE_NORMAL, nullptr))
     {
@@ -53,7 +53,7 @@ std::error_code writeAll(HANDLE file, std::string_view bytes)
 
 } // namespace
 
-std::error_code readWholeFile(const FileName& name, std::string& bytes)
+std::error_code readWholeFile(const WideString& name, std::string& bytes)
 {
     const File file(name, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
     if (!file.valid())
@@ -71,14 +71,14 @@ std::error_code readWholeFile(const FileName& name, std::string& bytes)
     }
 }
 
-std::error_code deleteFile(const FileName& name)
+std::error_code deleteFile(const WideString& name)
 {
     if (DeleteFileW(name.c_str()) != 0 || GetLastError() == ERROR_FILE_NOT_FOUND)
         return {};
     return lastError();
 }
 
-std::error_code writeWholeFile(const FileName& name, std::string_view bytes)
+std::error_code writeWholeFile(const WideString& name, std::string_view bytes)
 {
     std::error_code error;
     {

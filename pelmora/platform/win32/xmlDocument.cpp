@@ -166,16 +166,16 @@ XmlDocument::XmlDocument() : content_(std::make_unique<Content>()) {}
 
 XmlDocument::~XmlDocument() = default;
 
-bool XmlDocument::parseText(View text)
+bool XmlDocument::parseText(WideView text)
 {
-    Text withEncoding;
+    WideString withEncoding;
     if (const auto encoding = declaredEncoding(text)) {
         const auto at = static_cast<std::size_t>(encoding->data() - text.data());
         withEncoding.append(text).replace(at, encoding->size(), L"UTF-8");
         text = withEncoding;
     }
     std::string utf8;
-    return text.find(L'\0') == View::npos && toUtf8(text, utf8) && parseBytes(utf8);
+    return text.find(L'\0') == WideView::npos && toUtf8(text, utf8) && parseBytes(utf8);
 }
 
 bool XmlDocument::parseBytes(std::string_view bytes)
@@ -201,25 +201,25 @@ bool XmlDocument::hasRoot() const
     return static_cast<bool>(content_->root());
 }
 
-XmlDocument::Text XmlDocument::rootAttribute(const Text& name) const
+WideString XmlDocument::rootAttribute(const WideString& name) const
 {
     Variant value;
     const HRESULT result = content_->root()->getAttribute(Bstr(name).get(), &value);
-    return result == S_OK ? Text(value.text()) : Text();
+    return result == S_OK ? WideString(value.text()) : WideString();
 }
 
-XmlDocument::Text XmlDocument::firstSelected(const Text& expression) const
+WideString XmlDocument::firstSelected(const WideString& expression) const
 {
     NodePointer node;
-    if (expression.find(L'\0') != Text::npos ||
+    if (expression.find(L'\0') != WideString::npos ||
         content_->document->selectSingleNode(Bstr(expression).get(), node.receive()) != S_OK)
         return {};
     Bstr xml;
     require(node->get_xml(xml.receive()));
-    return Text(xml.view());
+    return WideString(xml.view());
 }
 
-XmlDocument::Text XmlDocument::textOfFirst(const Text& name) const
+WideString XmlDocument::textOfFirst(const WideString& name) const
 {
     const auto root = content_->root();
     if (!root)
@@ -232,14 +232,14 @@ XmlDocument::Text XmlDocument::textOfFirst(const Text& name) const
     if (element.node() == nullptr)
         return {};
     // The text property trims white space, which would lose some of it.
-    Text text;
+    WideString text;
     for (Walk inside(*element.node()); inside.node() != nullptr; inside.advance()) {
         const DOMNodeType type = nodeType(*inside.node());
         if (type == NODE_ENTITY_REFERENCE) {
             // Wine has no nodes for what it stands for, but knows the text of the whole.
             Bstr whole;
             require(element.node()->get_text(whole.receive()));
-            return Text(whole.view());
+            return WideString(whole.view());
         } else if (type == NODE_TEXT || type == NODE_CDATA_SECTION) {
             Variant value;
             require(inside.node()->get_nodeValue(&value));

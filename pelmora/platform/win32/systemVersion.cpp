@@ -1,4 +1,4 @@
-#include "pelmora/platform/osVersion.h"
+#include "pelmora/platform/systemVersion.h"
 
 #include <windows.h>
 

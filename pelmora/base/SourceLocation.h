@@ -2,7 +2,7 @@
 
 #include <source_location>
 
-namespace Pelmora::Native::Platform
+namespace Pelmora::Native
 {
 
 #if defined(__cpp_lib_source_location)
@@ -30,4 +30,4 @@ private:
 
 #endif
 
-} // namespace Pelmora::Native::Platform
+} // namespace Pelmora::Native

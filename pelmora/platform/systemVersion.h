@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstdint>
+#include "pelmora/base/OsVersion.h"
+
 #include <string>
 #include <variant>
 
@@ -8,15 +9,6 @@
 
 namespace Pelmora::Native::Platform
 {
-
-/// The version record of Windows.
-struct OsVersion {
-    std::uint32_t platform; ///< 0 Win32s, 1 Windows 9x, 2 Windows NT
-    std::uint32_t major;
-    std::uint32_t minor;
-    std::uint32_t build;
-    std::string servicePack; ///< "Service Pack 1"
-};
 
 /// The record where the system has one, a line of text where it has not, nothing when it does not
 /// answer.

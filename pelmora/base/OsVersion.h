@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace Pelmora::Native
+{
+
+/// The version record of Windows.
+struct OsVersion {
+    std::uint32_t platform; ///< 0 Win32s, 1 Windows 9x, 2 Windows NT
+    std::uint32_t major;
+    std::uint32_t minor;
+    std::uint32_t build;
+    std::string servicePack; ///< "Service Pack 1"
+};
+
+} // namespace Pelmora::Native
