@@ -139,13 +139,15 @@ pelmora_status pelmora_format_significant(double a, int32_t digits, char* buffer
 
 pelmora_status pelmora_count_significant_digits(const char* text, int* has_point, int32_t* digits)
 {
-    return give(digits, "digits", [&] {
-        bool hasPoint = false;
-        const int count = Native::countSignificantDigits(requiredText(text, "text"), hasPoint);
-        if (has_point != nullptr)
-            *has_point = hasPoint ? 1 : 0;
-        return count;
-    });
+    return guarded(
+        [&] {
+            bool hasPoint = false;
+            *digits = Native::countSignificantDigits(requiredText(text, "text"), hasPoint);
+            if (has_point != nullptr)
+                *has_point = hasPoint ? 1 : 0;
+            return PELMORA_OK;
+        },
+        Result(has_point, optional), Result(digits, "digits"));
 }
 
 pelmora_status pelmora_decimal_magnitude(double a, int32_t* magnitude)

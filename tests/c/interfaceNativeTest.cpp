@@ -1,0 +1,109 @@
+#include "pelmora/c/pelmora.h"
+
+#include <array>
+#include <cstdlib>
+#include <string>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <pthread.h>
+#include <unistd.h>
+
+// The C library's allocator, which also serves the C interface's own C++ runtime.
+extern "C" void* __libc_malloc(std::size_t size); // NOLINT
+
+namespace
+{
+
+std::size_t allocations = 0;
+bool isRefused = false;
+
+} // namespace
+
+extern "C" void* malloc(std::size_t size) noexcept
+{
+    ++allocations;
+    return isRefused ? nullptr : __libc_malloc(size);
+}
+
+namespace
+{
+
+constexpr pelmora_element mgPerHr[] = {{PELMORA_MILLI, PELMORA_UNIT_G, 1},
+                                       {PELMORA_NO_PREFIX, PELMORA_UNIT_HR, -1}};
+constexpr pelmora_element gPerMin[] = {{PELMORA_NO_PREFIX, PELMORA_UNIT_G, 1},
+                                       {PELMORA_NO_PREFIX, PELMORA_UNIT_MIN, -1}};
+
+TEST(CInterface, CalculatesWithoutAllocating)
+{
+    std::array<pelmora_char16, 80> text;
+    std::array<pelmora_element, 8> unit;
+    std::array<char, 40> narrow;
+    std::size_t length = 0;
+    double number = 0;
+    int compatible = 0;
+    const std::size_t before = allocations;
+    pelmora_status failed = PELMORA_OK;
+    failed |= pelmora_value_convert(5, mgPerHr, 2, gPerMin, 2, &number);
+    failed |= pelmora_unit_compatible(mgPerHr, 2, gPerMin, 2, &compatible);
+    failed |= pelmora_unit_text(mgPerHr, 2, text.data(), text.size(), &length);
+    failed |= pelmora_value_text(1234567.5, mgPerHr, 2, 12, text.data(), text.size(), &length);
+    failed |= pelmora_value_normalized_text(5e-7, mgPerHr, 2, 3, text.data(), text.size(), &length);
+    failed |= pelmora_format_significant(1234567.5, 30, narrow.data(), narrow.size(), &length);
+    failed |= pelmora_element_text(mgPerHr, 0, text.data(), text.size(), &length);
+    failed |=
+        pelmora_value_mul(5, mgPerHr, 2, 6, gPerMin, 2, &number, unit.data(), unit.size(), &length);
+    EXPECT_EQ(0U, allocations - before);
+    EXPECT_EQ(PELMORA_OK, failed);
+}
+
+TEST(CInterface, SaysThatMemoryRanOutWithoutMemory)
+{
+    std::string text(100, '<');
+    std::string buffer(1000, '\0');
+    std::size_t length = 0;
+    // A thread that has no place for messages yet, and one that has.
+    for (const char* expected : {"out of memory, also for a message", "out of memory"}) {
+        std::thread([&] {
+            if (std::string_view(expected) == "out of memory")
+                pelmora_escape_narrow(nullptr, 1, nullptr, 0, nullptr);
+            isRefused = true;
+            const pelmora_status status = pelmora_escape_narrow(
+                text.data(), text.size(), buffer.data(), buffer.size(), &length);
+            isRefused = false;
+            EXPECT_EQ(PELMORA_OUT_OF_MEMORY, status);
+            EXPECT_STREQ(expected, pelmora_last_error());
+            EXPECT_EQ(PELMORA_OK, pelmora_log_show_in_notepad(0));
+            EXPECT_STREQ("", pelmora_last_error());
+        }).join();
+    }
+}
+
+TEST(CInterface, LetsACancelledThreadGo)
+{
+    static std::atomic<bool> isWaiting = false;
+    const pelmora_translator wait = [](const char*, pelmora_char16*, std::size_t, void*) {
+        isWaiting = true;
+        pause();
+        return std::size_t(0);
+    };
+    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(wait, nullptr));
+    pthread_t thread = 0;
+    ASSERT_EQ(0, pthread_create(
+                     &thread, nullptr,
+                     [](void*) -> void* {
+                         std::size_t length = 0;
+                         pelmora_translate("Dose", nullptr, 0, &length);
+                         return nullptr;
+                     },
+                     nullptr));
+    while (!isWaiting)
+        std::this_thread::yield();
+    void* result = nullptr;
+    EXPECT_EQ(0, pthread_cancel(thread));
+    EXPECT_EQ(0, pthread_join(thread, &result));
+    EXPECT_EQ(PTHREAD_CANCELED, result);
+    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(nullptr, nullptr));
+}
+
+} // namespace
