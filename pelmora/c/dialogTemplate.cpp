@@ -56,9 +56,9 @@ pelmora_status pelmora_dialog_template_set_caption(pelmora_dialog_template* dial
 {
     return change(dialog, [&](Native::DialogTemplate& native) {
         constexpr size_t longest = 255;
-        const WideView text = requiredText(caption, "caption");
+        const Native::WideView text = requiredText(caption, "caption");
         native.setCaption(text);
-        return WideView(native.getCaption()) == text.substr(0, longest);
+        return Native::WideView(native.getCaption()) == text.substr(0, longest);
     });
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pelmora/c/border.h"
-#include "pelmora/units/UnitValue.h"
+#include "pelmora/units/textBuilder.h"
 
 #include <cstddef>
 #include <type_traits>
@@ -39,8 +39,8 @@ inline const Native::UnitElement& requiredElement(const pelmora_element* element
     return required(native(element), parameter);
 }
 
-inline std::span<const Native::UnitElement>
-requiredElements(const pelmora_element* first, std::size_t count, const char* parameter)
+inline Native::Elements requiredElements(const pelmora_element* first, std::size_t count,
+                                         const char* parameter)
 {
     return required(native(first), count, parameter);
 }
@@ -49,8 +49,7 @@ inline Native::Unit requiredUnit(const pelmora_element* first, std::size_t count
                                  const char* parameter)
 {
     Native::Unit unit;
-    for (const Native::UnitElement& element : requiredElements(first, count, parameter))
-        unit.elements.push_back(element);
+    unit.elements = Native::ElementList(requiredElements(first, count, parameter));
     return unit;
 }
 
@@ -82,6 +81,20 @@ pelmora_status giveScaled(double* place, const char* parameter, pelmora_element*
             return result.put(unit);
         },
         Result(place, parameter), result);
+}
+
+/// The text that `work` appends to a builder as the one result.
+template <class Char, class Work>
+pelmora_status giveBuilt(Char* buffer, std::size_t capacity, std::size_t* length, const Work& work)
+{
+    TextResult<Char> result(buffer, capacity, length);
+    return guarded(
+        [&] {
+            Native::TextBuilder<Char> text;
+            work(text);
+            return result.put(text.view());
+        },
+        result);
 }
 
 } // namespace Pelmora::C

@@ -25,7 +25,7 @@ GString translateByCallback(std::string msgid)
         const size_t length =
             installed.translate(msgid.c_str(), room.data(), room.size(), installed.context);
         if (length < room.size())
-            return WideView(room.data(), length);
+            return Native::WideView(room.data(), length);
         room = std::vector<Native::WideChar>(length + 1);
     }
     return {};

@@ -91,8 +91,8 @@ pelmora_status pelmora_element_compare(const pelmora_element* a, const pelmora_e
 pelmora_status pelmora_element_text(const pelmora_element* element, int absolute_exponent,
                                     pelmora_char16* buffer, size_t capacity, size_t* length)
 {
-    return giveText(buffer, capacity, length, [&] {
-        return requiredElement(element, "element").toString(absolute_exponent != 0);
+    return giveBuilt(buffer, capacity, length, [&](auto& text) {
+        Native::appendElement(text, requiredElement(element, "element"), absolute_exponent != 0);
     });
 }
 
@@ -130,7 +130,8 @@ pelmora_status pelmora_unit_compatible(const pelmora_element* a, size_t a_count,
                                        const pelmora_element* b, size_t b_count, int* result)
 {
     return give(result, "result", [&] {
-        return requiredUnit(a, a_count, "a").compatibleWith(requiredUnit(b, b_count, "b"));
+        return Native::areCompatible(requiredElements(a, a_count, "a"),
+                                     requiredElements(b, b_count, "b"));
     });
 }
 
@@ -216,8 +217,9 @@ pelmora_status pelmora_unit_shift_prefix(const pelmora_element* unit, size_t uni
 pelmora_status pelmora_unit_text(const pelmora_element* unit, size_t unit_count,
                                  pelmora_char16* buffer, size_t capacity, size_t* length)
 {
-    return giveText(buffer, capacity, length,
-                    [&] { return requiredUnit(unit, unit_count, "unit").toString(); });
+    return giveBuilt(buffer, capacity, length, [&](auto& text) {
+        Native::appendUnit(text, requiredElements(unit, unit_count, "unit"));
+    });
 }
 
 pelmora_status pelmora_unit_debug_text(const pelmora_element* unit, size_t unit_count, char* buffer,

@@ -10,7 +10,9 @@ namespace
 Native::UnitValue requiredValue(double number, const pelmora_element* unit, size_t count,
                                 const char* parameter)
 {
-    return {number, requiredUnit(unit, count, parameter)};
+    Native::UnitValue value(number, Native::Unit());
+    value.unit.elements = Native::ElementList(requiredElements(unit, count, parameter));
+    return value;
 }
 
 template <class Work>
@@ -99,8 +101,8 @@ pelmora_status pelmora_value_convert(double a, const pelmora_element* from, size
                                      const pelmora_element* to, size_t to_count, double* number)
 {
     return give(number, "number", [&] {
-        return requiredValue(a, from, from_count, "from")
-            .getConvertedValue(requiredUnit(to, to_count, "to"));
+        return Native::convertedValue(a, requiredElements(from, from_count, "from"),
+                                      requiredElements(to, to_count, "to"));
     });
 }
 
@@ -117,8 +119,9 @@ pelmora_status pelmora_value_text(double a, const pelmora_element* unit, size_t 
                                   int32_t precision, pelmora_char16* buffer, size_t capacity,
                                   size_t* length)
 {
-    return giveText(buffer, capacity, length,
-                    [&] { return requiredValue(a, unit, unit_count, "unit").toString(precision); });
+    return giveBuilt(buffer, capacity, length, [&](auto& text) {
+        Native::appendValue(text, a, requiredElements(unit, unit_count, "unit"), precision);
+    });
 }
 
 pelmora_status pelmora_value_normalized_text(double a, const pelmora_element* unit,
@@ -126,15 +129,16 @@ pelmora_status pelmora_value_normalized_text(double a, const pelmora_element* un
                                              pelmora_char16* buffer, size_t capacity,
                                              size_t* length)
 {
-    return giveText(buffer, capacity, length, [&] {
-        return requiredValue(a, unit, unit_count, "unit").toNormalizedString(digits);
+    return giveBuilt(buffer, capacity, length, [&](auto& text) {
+        Native::appendNormalized(text, requiredValue(a, unit, unit_count, "unit"), digits);
     });
 }
 
 pelmora_status pelmora_format_significant(double a, int32_t digits, char* buffer, size_t capacity,
                                           size_t* length)
 {
-    return giveText(buffer, capacity, length, [&] { return Native::formatSignificant(a, digits); });
+    return giveBuilt(buffer, capacity, length,
+                     [&](auto& text) { Native::appendSignificant(text, a, digits); });
 }
 
 pelmora_status pelmora_count_significant_digits(const char* text, int* has_point, int32_t* digits)

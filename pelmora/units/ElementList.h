@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <initializer_list>
 #include <memory>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -23,9 +24,17 @@ public:
 
     ElementList() noexcept = default;
     ElementList(std::initializer_list<UnitElement> elements)
+        : ElementList(std::span(elements.begin(), elements.size()))
     {
-        for (const UnitElement& element : elements)
-            push_back(element);
+    }
+    explicit ElementList(std::span<const UnitElement> elements)
+    {
+        if (elements.size() > few_.size()) {
+            many_ = std::make_unique<Heap>(elements.begin(), elements.end());
+        } else {
+            std::copy(elements.begin(), elements.end(), few_.begin());
+            fewSize_ = elements.size();
+        }
     }
     ElementList(const ElementList& other)
         : few_(other.few_),

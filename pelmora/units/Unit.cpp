@@ -22,7 +22,7 @@ std::int32_t wrappedNegation(std::int32_t a)
 }
 
 /// The ISO forms of the elements as an ordered set: equal ones collapse into one.
-ElementList isoSet(const ElementList& elements)
+ElementList isoSet(Elements elements)
 {
     ElementList set;
     for (const UnitElement& element : elements)
@@ -32,7 +32,7 @@ ElementList isoSet(const ElementList& elements)
     return set;
 }
 
-ElementList isoElements(const ElementList& elements)
+ElementList isoElements(Elements elements)
 {
     const ElementList set = isoSet(elements);
     ElementList result;
@@ -67,7 +67,7 @@ std::int64_t isoPlace(const UnitElement& element) noexcept
 }
 
 /// Whether the elements' ISO forms are equal one by one, as of mg/min and g/hr.
-bool isoFormsAreEqualInOrder(const ElementList& a, const ElementList& b) noexcept
+bool isoFormsAreEqualInOrder(Elements a, Elements b) noexcept
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](const UnitElement& x, const UnitElement& y) {
@@ -77,7 +77,7 @@ bool isoFormsAreEqualInOrder(const ElementList& a, const ElementList& b) noexcep
 
 /// One number for the elements of the ISO form, equal for equal forms: its digits to the base 64
 /// are the sums of exponents, from -6 to 6. Nothing for units whose sums could be larger.
-std::optional<std::int64_t> isoSignature(const ElementList& elements) noexcept
+std::optional<std::int64_t> isoSignature(Elements elements) noexcept
 {
     constexpr std::size_t mostElements = 8;
     constexpr std::int32_t largestExponent = 3;
@@ -106,6 +106,17 @@ bool isoHas(const Unit& unit, UnitTypeEnum kind, std::int32_t exponent)
 }
 
 } // namespace
+
+bool areCompatible(Elements a, Elements b)
+{
+    if (isoFormsAreEqualInOrder(a, b))
+        return true;
+    const auto signature = isoSignature(a);
+    const auto otherSignature = isoSignature(b);
+    if (signature && otherSignature)
+        return *signature == *otherSignature;
+    return isoElements(a) == isoElements(b);
+}
 
 Unit::Unit(const UnitElement& element) : elements{element} {}
 
@@ -171,21 +182,12 @@ ScaledUnit Unit::getAsIsoUnit() const
 
 double Unit::isoFactor() const noexcept
 {
-    double factor = 1;
-    for (const UnitElement& element : elements)
-        factor *= Native::isoFactor(element.prefix, element.unitType, element.exponent);
-    return factor;
+    return Native::isoFactor(elements);
 }
 
 bool Unit::compatibleWith(const Unit& other) const
 {
-    if (isoFormsAreEqualInOrder(elements, other.elements))
-        return true;
-    const auto signature = isoSignature(elements);
-    const auto otherSignature = isoSignature(other.elements);
-    if (signature && otherSignature)
-        return *signature == *otherSignature;
-    return isoElements(elements) == isoElements(other.elements);
+    return areCompatible(elements, other.elements);
 }
 
 bool Unit::isEquivalent(const Unit& other) const

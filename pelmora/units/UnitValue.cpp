@@ -1,5 +1,7 @@
 #include "pelmora/units/UnitValue.h"
 
+#include "pelmora/units/isoFactor.h"
+
 #include <array>
 
 namespace Pelmora::Native
@@ -36,7 +38,7 @@ UnitValue UnitValue::getReduced() const
 
 double UnitValue::getConvertedValue(const Unit& target) const noexcept
 {
-    return value * unit.isoFactor() / target.isoFactor();
+    return convertedValue(value, unit.elements, target.elements);
 }
 
 void UnitValue::convertTo(const Unit& target)

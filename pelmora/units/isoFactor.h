@@ -1,11 +1,13 @@
 #pragma once
 
+#include "pelmora/units/UnitElement.h"
 #include "pelmora/units/unitTables.h"
 
 #include <array>
 #include <cstddef>
+#include <span>
 
-// The powers of the prefixes' and kinds' factors. Internal to the units folder.
+// The powers of the prefixes' and kinds' factors. Internal to the units and c folders.
 //
 // They are correctly rounded for every prefix, kind and exponent, with nothing but IEEE double
 // arithmetic: the C runtimes' `pow` differ in the last bits, and with them the two builds would
@@ -38,5 +40,25 @@ inline double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t expon
         return rareIsoFactor(prefix, kind, exponent);
     return powerTable[kindIndex(kind)][prefixAt][exponentAt];
 }
+
+/// The elements of a unit, wherever they lie.
+using Elements = std::span<const UnitElement>;
+
+/// The factor of the unit's ISO form.
+inline double isoFactor(Elements unit) noexcept
+{
+    double factor = 1;
+    for (const UnitElement& element : unit)
+        factor *= isoFactor(element.prefix, element.unitType, element.exponent);
+    return factor;
+}
+
+inline double convertedValue(double value, Elements from, Elements to) noexcept
+{
+    return value * isoFactor(from) / isoFactor(to);
+}
+
+/// See Unit::compatibleWith.
+bool areCompatible(Elements a, Elements b);
 
 } // namespace Pelmora::Native

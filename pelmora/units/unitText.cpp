@@ -1,6 +1,7 @@
 #include "pelmora/units/unitText.h"
 
 #include "pelmora/gettext/utf8.h"
+#include "pelmora/units/textBuilder.h"
 #include "pelmora/units/unitTables.h"
 
 #include <algorithm>
@@ -40,70 +41,29 @@ std::string streamedNumber(double value, NumberFormat format)
     return stream.str();
 }
 
-std::string classicNumber(double value, NumberFormat format)
+void appendClassic(NarrowBuilder& text, double value, NumberFormat format)
 {
     const auto notation = format.fixed ? std::chars_format::fixed : std::chars_format::general;
-    std::array<char, longestNumber> text;
-    const auto written =
-        std::to_chars(text.data(), text.data() + text.size(), value, notation, format.precision);
-    return {text.data(), written.ptr};
+    std::array<char, longestNumber> number;
+    const auto written = std::to_chars(number.data(), number.data() + number.size(), value,
+                                       notation, format.precision);
+    text.append(std::string_view(number.data(), written.ptr));
 }
 
-std::string numberText(double value, NumberFormat format)
+void appendNumber(NarrowBuilder& text, double value, NumberFormat format)
 {
     // Streams take the text from the stack, whatever its length.
     const int zeros = std::max(format.precision - longestFraction, 0);
     format.precision -= zeros;
-    const bool isClassic = std::locale() == std::locale::classic();
-    std::string text = isClassic ? classicNumber(value, format) : streamedNumber(value, format);
+    if (std::locale() == std::locale::classic())
+        appendClassic(text, value, format);
+    else
+        text.append(std::string_view(streamedNumber(value, format)));
     if (format.fixed && std::isfinite(value))
         text.append(static_cast<std::size_t>(zeros), '0');
-    return text;
 }
 
-/// Collects units of a text in place before the one allocation that the result may need.
-class TextBuilder
-{
-public:
-    void append(WideChar unit)
-    {
-        if (used_ == units_.size())
-            flush();
-        units_[used_++] = unit;
-    }
-
-    void appendAscii(std::string_view ascii)
-    {
-        for (const char character : ascii)
-            append(static_cast<WideChar>(character));
-    }
-
-    std::size_t size() const { return flushed_.size() + used_; }
-
-    /// Requires: the last call appended something.
-    void dropLast() { --used_; }
-
-    GString take()
-    {
-        if (flushed_.empty())
-            return WideView(units_.data(), used_);
-        flush();
-        return std::move(flushed_);
-    }
-
-private:
-    void flush()
-    {
-        flushed_.append(units_.data(), used_);
-        used_ = 0;
-    }
-
-    std::array<WideChar, 128> units_;
-    std::size_t used_ = 0;
-    WideString flushed_;
-};
-
-void appendPower(TextBuilder& text, std::int64_t exponent)
+void appendPower(WideBuilder& text, std::int64_t exponent)
 {
     if (exponent == 1)
         return;
@@ -115,28 +75,45 @@ void appendPower(TextBuilder& text, std::int64_t exponent)
         std::array<char, 16> digits;
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), exponent).ptr;
         text.append(u'^');
-        text.appendAscii({digits.data(), end});
+        text.append(std::string_view(digits.data(), end));
     }
 }
 
-void appendElement(TextBuilder& text, const UnitElement& element, bool absoluteExponent)
+/// The number, a blank and the unit, if that has a text.
+void appendWithUnit(WideBuilder& text, NarrowBuilder& builtNumber, Elements unit)
+{
+    const std::string_view number = builtNumber.view();
+    if (asciiPrefix(number) == number.size())
+        text.append(number);
+    else // from a locale of the caller's, in the ANSI code page
+        text.append(WideView(GString(number)));
+    text.append(u' ');
+    const std::size_t unitStart = text.size();
+    appendUnit(text, unit);
+    if (text.size() == unitStart)
+        text.dropLast();
+}
+
+} // namespace
+
+void appendElement(WideBuilder& text, const UnitElement& element, bool absoluteExponent)
 {
     if (element.exponent == 0)
         return;
     const std::size_t prefix = prefixIndex(element.prefix);
     if (prefix < prefixRows.size())
-        text.appendAscii(prefixRows[prefix].symbol);
-    text.appendAscii(kindRow(element.unitType).symbol);
+        text.append(prefixRows[prefix].symbol);
+    text.append(kindRow(element.unitType).symbol);
     const std::int64_t exponent = element.exponent;
     appendPower(text, absoluteExponent && exponent < 0 ? -exponent : exponent);
 }
 
-void appendUnit(TextBuilder& text, const Unit& unit)
+void appendUnit(WideBuilder& text, Elements unit)
 {
-    for (const UnitElement& element : unit.elements)
+    for (const UnitElement& element : unit)
         if (element.exponent > 0)
             appendElement(text, element, true);
-    for (const UnitElement& element : unit.elements) {
+    for (const UnitElement& element : unit) {
         if (element.exponent < 0) {
             text.append(u'/');
             appendElement(text, element, true);
@@ -144,36 +121,44 @@ void appendUnit(TextBuilder& text, const Unit& unit)
     }
 }
 
-GString withUnit(const std::string& number, const Unit& unit)
+void appendValue(WideBuilder& text, double value, Elements unit, int precision)
 {
-    TextBuilder text;
-    if (asciiPrefix(number) == number.size()) {
-        text.appendAscii(number);
-    } else { // from a locale of the caller's, in the ANSI code page
-        for (const WideChar digit : GString(number))
-            text.append(digit);
-    }
-    text.append(u' ');
-    const std::size_t unitStart = text.size();
-    appendUnit(text, unit);
-    if (text.size() == unitStart)
-        text.dropLast();
-    return text.take();
+    NarrowBuilder number;
+    appendNumber(number, value, precision >= 0 ? NumberFormat{true, precision} : streamDefault);
+    appendWithUnit(text, number, unit);
 }
 
-} // namespace
+void appendNormalized(WideBuilder& text, const UnitValue& value, int digits)
+{
+    const UnitValue normalized = value.toNormalized(digits);
+    NarrowBuilder number;
+    appendSignificant(number, normalized.value, digits);
+    appendWithUnit(text, number, normalized.unit.elements);
+}
+
+void appendSignificant(NarrowBuilder& text, double value, int digits)
+{
+    appendNumber(text, value, digits > 0 ? NumberFormat{false, digits} : streamDefault);
+    bool hasPoint = false;
+    const int counted = countSignificantDigits(text.view(), hasPoint);
+    if (counted < digits) {
+        if (!hasPoint)
+            text.append('.');
+        text.append(static_cast<std::size_t>(digits) - static_cast<std::size_t>(counted), '0');
+    }
+}
 
 GString UnitElement::toString(bool absoluteExponent) const
 {
-    TextBuilder text;
+    WideBuilder text;
     appendElement(text, *this, absoluteExponent);
     return text.take();
 }
 
 GString Unit::toString() const
 {
-    TextBuilder text;
-    appendUnit(text, *this);
+    WideBuilder text;
+    appendUnit(text, elements);
     return text.take();
 }
 
@@ -191,28 +176,23 @@ std::string Unit::toDebugString() const
 
 GString UnitValue::toString(int precision) const
 {
-    const NumberFormat format = precision >= 0 ? NumberFormat{true, precision} : streamDefault;
-    return withUnit(numberText(value, format), unit);
+    WideBuilder text;
+    appendValue(text, value, unit.elements, precision);
+    return text.take();
 }
 
 GString UnitValue::toNormalizedString(int digits) const
 {
-    const UnitValue normalized = toNormalized(digits);
-    return withUnit(formatSignificant(normalized.value, digits), normalized.unit);
+    WideBuilder text;
+    appendNormalized(text, *this, digits);
+    return text.take();
 }
 
 std::string formatSignificant(double value, int digits)
 {
-    const NumberFormat format = digits > 0 ? NumberFormat{false, digits} : streamDefault;
-    std::string text = numberText(value, format);
-    bool hasPoint = false;
-    const int counted = countSignificantDigits(text, hasPoint);
-    if (counted < digits) {
-        if (!hasPoint)
-            text += '.';
-        text.append(static_cast<std::size_t>(digits) - static_cast<std::size_t>(counted), '0');
-    }
-    return text;
+    NarrowBuilder text;
+    appendSignificant(text, value, digits);
+    return text.take();
 }
 
 int countSignificantDigits(std::string_view text, bool& hasPoint) noexcept

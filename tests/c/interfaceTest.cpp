@@ -76,7 +76,7 @@ Outcome callText(pelmora_status(PELMORA_CALL* function)(Arguments...), Given... 
     std::size_t length = 0;
     Outcome outcome;
     outcome.status = function(given..., room.data(), room.size(), &length);
-    outcome.text = GString::View(room.data(), length);
+    outcome.text = WideView(room.data(), length);
     return outcome;
 }
 
