@@ -28,6 +28,8 @@ TEST(Bedside, CalculatesWithTheWeightWhereTheDoseNeedsIt)
     EXPECT_EQ(program.text(ID_LASTS), L"19 hr 5 min");
     EXPECT_EQ(program.text(ID_ERROR), L"");
     EXPECT_TRUE(program.isEnabled(ID_START));
+    program.choose(ID_PANEL, L"Complete blood count");
+    EXPECT_EQ(program.text(ID_LAB_VALUES + 2), L"6.2 \u00D7 10\u2079/L");
 
     program.type(ID_WEIGHT, L"unknown");
     EXPECT_FALSE(program.isEnabled(ID_START));
