@@ -32,9 +32,10 @@ concept Utf16Unit = std::same_as<T, WideChar> || std::same_as<T, char16_t>;
 ///
 /// Narrow text always comes with a Windows code page. Conversions by code page never fail:
 /// characters without a counterpart become the code page's best fit or its default character, and
-/// an unknown code page gives an empty text. They end at the first NUL, except to code page 65001,
-/// which is `to_utf8`, and those from and to UTF-8 by name. Pointers to text are never null.
-/// Conversions may run in several threads at once.
+/// an unknown code page gives an empty text. On Linux, only 932, 936, 949 and 1252 have best fits,
+/// and the user-defined characters of 936 and 949 have no counterparts. Conversions end at the
+/// first NUL, except to code page 65001, which is `to_utf8`, and those from and to UTF-8 by name;
+/// they may run in several threads at once. Pointers to text are never null.
 class PELMORA_API GString
 {
 public:
@@ -92,9 +93,10 @@ public:
     /// Exactly '0' to '9', in every locale.
     static bool is_digit(WideChar unit) noexcept;
 
-    /// The decimal number at the start, as `wcstol` reads it with a `long` of 32 bits: white space,
-    /// a sign, digits; clamped to the range; 0 where there is no number. `ok`, when given, says
-    /// whether the text was consumed to its end, which the empty text is.
+    /// The decimal number at the start, as `wcstol` on Windows reads it, in every locale: Unicode's
+    /// white space, a sign, decimal digits, also full-width ones and those of sixteen more scripts;
+    /// clamped to 32 bits; 0 where there is no number. `ok`, when given, says whether the text was
+    /// consumed to its end, which the empty text is.
     std::int32_t to_long(bool* ok = nullptr) const noexcept;
 
     /// "true" or "false".

@@ -9,8 +9,9 @@
 //
 // The code page numbers are those of Windows, with 0 for the ANSI code page. Bytes and units that
 // have no counterpart are replaced, never reported: by what the code page's table of best fits
-// says, otherwise by its default character. Both functions stop at the terminating NUL, which is
-// converted too. Safe to call from several threads.
+// says, otherwise by its default character. Linux has such tables for 932, 936, 949 and 1252 only,
+// and no user-defined characters in 936 and 949. Both functions stop at the terminating NUL, which
+// is converted too. Safe to call from several threads.
 
 namespace Pelmora::Native::Platform
 {

@@ -1,7 +1,10 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "tests/printing.h"
 
+#include <cstdint>
+#include <ctime>
 #include <tuple>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -34,7 +37,7 @@ TEST(CodePages, TextsOfBothSidesMatch)
 TEST(CodePages, WhatHasNoCounterpartIsReplaced)
 {
     const std::tuple<unsigned int, GString, std::string> toNarrow[] = {
-        {0, u"\u0101\u0142\uFF21\u2032\u2212\u0111", "alA'-d"}, // best fits
+        {0, u"\u0101\u0142\uFF01\uFF5E\u2032\u2212", "al!~'-"}, // best fits
         {0, u"\u0080\u0093\u009D", "??\x9D"},
         {0, u"\u6771\u2603!", "?\?!"},
         {0, u"\xD83D\xDE00x", "??x"},
@@ -49,11 +52,38 @@ TEST(CodePages, WhatHasNoCounterpartIsReplaced)
         {65001, "\xC0\x80\xFF\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
         {932, "\x93\x8C\x81", u"\u6771\u30FB"},
         {932, "\x81\xFF!", u"\u30FB!"},
+        {949, "\xA2\xE8z", u"?z"},
         {936, "\xB1\xB1\x81 ", u"\u5317?"},
         {99999, "\xE9", u""},
     };
     for (const auto& [codePage, narrow, text] : toWide)
         EXPECT_EQ(GString(narrow, codePage), text) << narrow;
+}
+
+TEST(CodePages, BestFitsAreThoseOfWindows)
+{
+    WideString all;
+    for (unsigned int unit = 1; unit <= 0xFFFF; ++unit)
+        if (unit < 0xE000 || unit > 0xF8FF) // without the user-defined characters
+            all += static_cast<WideChar>(unit);
+    const std::pair<unsigned int, std::uint32_t> rows[] = {
+        {932, 3351354414}, {936, 1121192449}, {949, 2300239412}, {1252, 1278725639}};
+    for (const auto& [codePage, expected] : rows) {
+        std::uint32_t hash = 2166136261; // FNV-1a
+        for (const char byte : GString(all).to_narrow(codePage))
+            hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619U;
+        EXPECT_EQ(hash, expected) << codePage;
+    }
+}
+
+TEST(CodePages, UnencodableTextTakesTimeInProportion)
+{
+    WideString text;
+    for (unsigned int i = 0; i < 300000; ++i)
+        text += static_cast<WideChar>(0x4E00 + i % 20000);
+    const std::clock_t start = std::clock();
+    EXPECT_EQ(GString(text).to_narrow(1252), std::string(text.size(), '?'));
+    EXPECT_LT(std::clock() - start, 3 * CLOCKS_PER_SEC); // a hundredth of it, on a calm machine
 }
 
 TEST(CodePages, ConversionsEndAtTheFirstNul)

@@ -1,12 +1,13 @@
 #include "pelmora/platform/codePages.h"
 
-#include "pelmora/platform/posix/bestFit1252.h"
+#include "pelmora/platform/posix/bestFit.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@ namespace
 
 constexpr unsigned int ansiPage = 1252;
 constexpr unsigned int oemPage = 437;
+constexpr unsigned int gb18030Page = 54936;
 constexpr unsigned int utf8Page = 65001;
 
 /// The page behind the numbers that stand for a default.
@@ -40,7 +42,7 @@ std::string iconvName(unsigned int page)
 {
     if (page == utf8Page)
         return "UTF-8";
-    if (page == 54936)
+    if (page == gb18030Page)
         return "GB18030";
     if (page == 20866)
         return "KOI8-R";
@@ -113,19 +115,51 @@ bool joinsMarks(unsigned int page)
     return page == 1255 || page == 1258;
 }
 
+struct LeadBytes {
+    unsigned int page;
+    unsigned char first;
+    unsigned char last;
+};
+
+constexpr LeadBytes leadBytes[] = {
+    {932, 0x81, 0x9F}, {932, 0xE0, 0xFC},  {936, 0x81, 0xFE},  {949, 0x81, 0xFE},
+    {950, 0x81, 0xFE}, {1361, 0x84, 0xD3}, {1361, 0xD8, 0xDE}, {1361, 0xE0, 0xF9},
+};
+
+bool hasLeadBytes(unsigned int page)
+{
+    return std::any_of(std::begin(leadBytes), std::end(leadBytes),
+                       [page](const LeadBytes& row) { return row.page == page; });
+}
+
 bool isLeadByte(unsigned int page, unsigned char byte)
 {
-    switch (page) {
-    case 932:
-        return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
-    case 936:
-    case 949:
-    case 950:
-        return byte >= 0x81 && byte <= 0xFE;
-    default:
-        return false;
-    }
+    return std::any_of(std::begin(leadBytes), std::end(leadBytes), [=](const LeadBytes& row) {
+        return row.page == page && byte >= row.first && byte <= row.last;
+    });
 }
+
+/// The place after a number of characters, each of which is one byte or a lead byte and another.
+char* afterCharacters(unsigned int page, char* text, std::size_t characters)
+{
+    for (; characters > 0; --characters)
+        text += isLeadByte(page, static_cast<unsigned char>(*text)) ? 2 : 1;
+    return text;
+}
+
+/// A single byte that Windows maps to a unit, and back, although its page leaves it undefined.
+struct UndefinedByte {
+    unsigned int page;
+    unsigned char byte;
+    WideChar unit;
+};
+
+constexpr UndefinedByte undefinedBytes[] = {
+    {932, 0x80, 0x0080},  {932, 0xA0, 0xF8F0},  {932, 0xFD, 0xF8F1},  {932, 0xFE, 0xF8F2},
+    {932, 0xFF, 0xF8F3},  {936, 0xFF, 0xF8F5},  {949, 0x80, 0x0080},  {949, 0xFF, 0xF8F7},
+    {1252, 0x81, 0x0081}, {1252, 0x8D, 0x008D}, {1252, 0x8F, 0x008F}, {1252, 0x90, 0x0090},
+    {1252, 0x9D, 0x009D},
+};
 
 struct Replacement {
     WideChar unit;
@@ -141,22 +175,135 @@ Replacement replacementFor(unsigned int page, const unsigned char* text)
         const WideChar unit = page == 932 ? u'\u30FB' : u'?';
         return {unit, text[1] == 0 ? 1U : 2U};
     }
-    // Windows maps the bytes that its pages leave undefined here to the C1 controls.
+    for (const UndefinedByte& row : undefinedBytes)
+        if (row.page == page && row.byte == text[0])
+            return {row.unit, 1};
+    // Most other pages map what they leave undefined here to the C1 controls.
     const bool isControl = text[0] >= 0x80 && text[0] <= 0x9F;
     return {isControl ? static_cast<WideChar>(text[0]) : u'?', 1};
 }
 
-char bestFit(unsigned int page, WideChar unit)
+std::optional<char> undefinedByteOf(unsigned int page, wchar_t character)
 {
-    if (page != ansiPage)
-        return '?';
-    if (unit >= 0xFF01 && unit <= 0xFF5E)
-        return static_cast<char>(unit - 0xFF01 + 0x21);
-    for (const BestFitRow& row : bestFit1252)
-        if (const auto at = row.characters.find(unit); at != std::u16string_view::npos)
-            return row.bytes[at];
-    return '?';
+    for (const UndefinedByte& row : undefinedBytes)
+        if (row.page == page && row.unit == character)
+            return static_cast<char>(row.byte);
+    return std::nullopt;
 }
+
+/// Whether iconv converts a unit to a page that, to Windows, does not have it. Some supplementary
+/// characters it drops from every page.
+bool isForeign(unsigned int page, WideChar unit)
+{
+    constexpr WideView foreignTo932 = u"\u2014\u2016\u203E\u2212\u301C";
+    const bool isSurrogate = (unit & 0xF800U) == 0xD800U;
+    return isSurrogate || (page == 932 && foreignTo932.find(unit) != WideView::npos);
+}
+
+/// Takes the next character from the start of `text`: a surrogate pair in the pages that have a
+/// counterpart for it, otherwise one unit.
+wchar_t takeCharacter(unsigned int page, WideView& text)
+{
+    const WideChar unit = text.front();
+    text.remove_prefix(1);
+    const bool isPair = (page == gb18030Page || page == utf8Page) && (unit & 0xFC00U) == 0xD800U &&
+                        !text.empty() && (text.front() & 0xFC00U) == 0xDC00U;
+    if (isPair) {
+        const WideChar low = text.front();
+        text.remove_prefix(1);
+        return static_cast<wchar_t>(0x10000U + ((unit & 0x3FFU) << 10U) + (low & 0x3FFU));
+    }
+    return isForeign(page, unit) ? L'?' : static_cast<wchar_t>(unit);
+}
+
+/// The fits of characters that a page was found to lack, the latest of those that share a place.
+/// Asking here is ten times quicker than letting iconv fail again.
+class KnownFits
+{
+public:
+    void add(wchar_t character, wchar_t fit) { placeOf(character) = {character, fit}; }
+
+    /// The fit, or the character itself when none is known.
+    wchar_t fitOr(wchar_t character)
+    {
+        const Entry& entry = placeOf(character);
+        return entry.character == character ? entry.fit : character;
+    }
+
+private:
+    struct Entry {
+        wchar_t character = 0;
+        wchar_t fit = 0;
+    };
+
+    Entry& placeOf(wchar_t character)
+    {
+        return entries_[static_cast<std::size_t>(character) % entries_.size()];
+    }
+
+    std::array<Entry, 512> entries_;
+};
+
+/// Writes text into a buffer in one code page.
+class Encoder
+{
+public:
+    // From whole characters, iconv takes one step. With a second one before it, it would decode all
+    // that it was given anew for each character that the page lacks.
+    Encoder(unsigned int page, std::span<char> buffer)
+        : page_(page),
+          converter_(iconvName(page), "WCHAR_T"),
+          out_(buffer.data()),
+          outLeft_(buffer.size())
+    {
+    }
+
+    ConversionStatus encode(WideView text)
+    {
+        if (!converter_.valid())
+            return ConversionStatus::failed;
+        std::array<wchar_t, 256> characters;
+        auto status = ConversionStatus::done;
+        while (!text.empty() && status == ConversionStatus::done) {
+            std::size_t count = 0;
+            while (count < characters.size() && !text.empty())
+                characters[count++] = knownFits_.fitOr(takeCharacter(page_, text));
+            status = convert(std::span(characters).first(count));
+        }
+        return status;
+    }
+
+private:
+    ConversionStatus convert(std::span<wchar_t> characters)
+    {
+        char* in = reinterpret_cast<char*>(characters.data());
+        std::size_t inLeft = characters.size_bytes();
+        while (const int error = converter_.convert(in, inLeft, out_, outLeft_)) {
+            if (error == E2BIG || outLeft_ == 0)
+                return ConversionStatus::bufferTooSmall;
+            wchar_t& missing = characters[characters.size() - inLeft / sizeof(wchar_t)];
+            if (missing == L'?')
+                return ConversionStatus::failed;
+            if (const std::optional<char> byte = undefinedByteOf(page_, missing)) {
+                *out_++ = *byte;
+                --outLeft_;
+                in += sizeof(wchar_t);
+                inLeft -= sizeof(wchar_t);
+            } else {
+                const wchar_t fit = bestFit(page_, missing);
+                knownFits_.add(missing, fit);
+                missing = fit;
+            }
+        }
+        return ConversionStatus::done;
+    }
+
+    unsigned int page_;
+    Converter converter_;
+    KnownFits knownFits_;
+    char* out_;
+    std::size_t outLeft_;
+};
 
 } // namespace
 
@@ -168,54 +315,37 @@ ConversionStatus decode(unsigned int codePage, const char* text, std::span<WideC
         return ConversionStatus::failed;
 
     char* in = const_cast<char*>(text); // NOLINT: iconv reads only
-    std::size_t inLeft = std::strlen(text) + 1;
+    const char* const end = in + std::strlen(text) + 1;
     char* out = reinterpret_cast<char*>(buffer.data());
     std::size_t outLeft = buffer.size_bytes();
-    while (inLeft > 0) {
-        const std::size_t offered = joinsMarks(page) ? 1 : inLeft;
-        std::size_t left = offered;
-        int error = converter.convert(in, left, out, outLeft);
-        inLeft -= offered - left;
+    while (in < end) {
+        char* const start = in;
+        const std::size_t leftBefore = outLeft;
+        std::size_t offered = joinsMarks(page) ? 1 : static_cast<std::size_t>(end - in);
+        int error = converter.convert(in, offered, out, outLeft);
         if (error == 0)
             error = converter.flush(out, outLeft);
         if (error == 0)
             continue;
         if (error == E2BIG || outLeft < sizeof(WideChar))
             return ConversionStatus::bufferTooSmall;
+        // iconv itself may have moved on already, as after A2 E8 in code page 949.
+        if (hasLeadBytes(page))
+            in = afterCharacters(page, start, (leftBefore - outLeft) / sizeof(WideChar));
         const Replacement replacement =
             replacementFor(page, reinterpret_cast<const unsigned char*>(in));
         std::memcpy(out, &replacement.unit, sizeof(WideChar));
         out += sizeof(WideChar);
         outLeft -= sizeof(WideChar);
         in += replacement.length;
-        inLeft -= replacement.length;
     }
     return ConversionStatus::done;
 }
 
 ConversionStatus encode(unsigned int codePage, const WideChar* text, std::span<char> buffer)
 {
-    const unsigned int page = actualPage(codePage);
-    Converter converter(iconvName(page), utf16Name());
-    if (!converter.valid())
-        return ConversionStatus::failed;
-
-    const std::size_t units = std::char_traits<WideChar>::length(text) + 1;
-    char* in = reinterpret_cast<char*>(const_cast<WideChar*>(text)); // NOLINT: iconv reads only
-    std::size_t inLeft = units * sizeof(WideChar);
-    char* out = buffer.data();
-    std::size_t outLeft = buffer.size();
-    while (const int error = converter.convert(in, inLeft, out, outLeft)) {
-        if (error == E2BIG || outLeft == 0)
-            return ConversionStatus::bufferTooSmall;
-        WideChar unit = 0;
-        std::memcpy(&unit, in, sizeof(WideChar));
-        *out++ = bestFit(page, unit);
-        --outLeft;
-        in += sizeof(WideChar);
-        inLeft -= sizeof(WideChar);
-    }
-    return ConversionStatus::done;
+    return Encoder(actualPage(codePage), buffer)
+        .encode({text, std::char_traits<WideChar>::length(text) + 1});
 }
 
 char16_t ansiDefaultCharacter() noexcept
