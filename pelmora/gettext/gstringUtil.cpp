@@ -10,6 +10,7 @@
 #include <cwctype>
 #include <limits>
 #include <mutex>
+#include <optional>
 
 namespace Pelmora::Native
 {
@@ -65,6 +66,28 @@ WideString widened(std::string_view narrow, unsigned int codePage)
 bool equals(WideView text, std::u16string_view other)
 {
     return std::equal(text.begin(), text.end(), other.begin(), other.end());
+}
+
+// What the C library of Windows takes for white space and decimal digits in `wcstol`, in any
+// locale.
+constexpr std::u16string_view whiteSpace =
+    u"\t\n\v\f\r \u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A"
+    u"\u2028\u2029\u202F\u205F\u3000";
+constexpr std::u16string_view zeros = u"0\u0660\u06F0\u0966\u09E6\u0A66\u0AE6\u0B66\u0C66\u0CE6"
+                                      u"\u0D66\u0E50\u0ED0\u0F20\u1040\u17E0\u1810"
+                                      u"\uFF10";
+
+bool isSkipped(WideChar unit)
+{
+    return whiteSpace.find(static_cast<char16_t>(unit)) != std::u16string_view::npos;
+}
+
+std::optional<int> digitOf(WideChar unit)
+{
+    for (const char16_t zero : zeros)
+        if (unit >= zero && unit <= zero + 9)
+            return unit - zero;
+    return std::nullopt;
 }
 
 template <class Mapping>
@@ -211,24 +234,26 @@ bool GString::is_digit(WideChar unit) noexcept
 
 std::int32_t GString::to_long(bool* ok) const noexcept
 {
-    // wcstol itself is no help: its long has 64 bits on Linux, and no char16_t there.
-    std::size_t position = 0;
-    while (position < size() && is_space(text_[position]))
-        ++position;
-    const bool negative = position < size() && text_[position] == '-';
-    if (position < size() && (negative || text_[position] == '+'))
-        ++position;
+    // wcstol itself is no help: on Linux it takes other digits, and its long has 64 bits.
+    WideView rest(text_);
+    while (!rest.empty() && isSkipped(rest.front()))
+        rest.remove_prefix(1);
+    const bool negative = !rest.empty() && rest.front() == '-';
+    if (!rest.empty() && (negative || rest.front() == '+'))
+        rest.remove_prefix(1);
 
     constexpr std::int64_t lowest = std::numeric_limits<std::int32_t>::min();
     constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
-    const std::size_t firstDigit = position;
+    const std::size_t beforeDigits = rest.size();
     std::int64_t value = 0;
-    for (; position < size() && is_digit(text_[position]); ++position) {
-        const std::int64_t digit = text_[position] - '0';
-        value = std::clamp(value * 10 + (negative ? -digit : digit), lowest, highest);
+    for (; !rest.empty(); rest.remove_prefix(1)) {
+        const std::optional<int> digit = digitOf(rest.front());
+        if (!digit)
+            break;
+        value = std::clamp(value * 10 + (negative ? -*digit : *digit), lowest, highest);
     }
     if (ok != nullptr)
-        *ok = position > firstDigit ? position == size() : empty();
+        *ok = rest.size() < beforeDigits ? rest.empty() : empty();
     return static_cast<std::int32_t>(value);
 }
 

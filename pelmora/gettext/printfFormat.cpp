@@ -1,10 +1,10 @@
 #include "pelmora/gettext/printfFormat.h"
 
 #include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/gettext/printfNumber.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <optional>
 #include <string>
 
@@ -17,16 +17,6 @@ namespace
 constexpr int largestField = 65536;
 
 constexpr std::string_view conversionLetters = "diuoxXcCsSpfFeEgGaA";
-
-/// One conversion of a format: the text from its % to its letter, taken apart.
-struct Conversion {
-    std::string flags;
-    std::optional<int> width;
-    std::optional<int> precision;
-    int lengthBits = 0;  ///< 8 or 16 when the modifier hh or h cuts the number, otherwise 0
-    char letter = 0;     ///< 0 where the format breaks off
-    std::size_t end = 0; ///< the position behind the letter
-};
 
 /// Walks over the arguments; each is used at most once.
 class ArgumentQueue
@@ -60,7 +50,7 @@ public:
     {
         Conversion result;
         while (const char flag = takeAnyOf("-+ #0"))
-            if (result.flags.find(flag) == std::string::npos)
+            if (!result.has(flag))
                 result.flags += flag;
         result.width = number();
         if (result.width && *result.width < 0) {
@@ -127,52 +117,6 @@ private:
     ArgumentQueue& arguments_;
 };
 
-/// The conversion as snprintf takes it, with the length modifier that fits what it is given.
-std::string narrowFormat(const Conversion& conversion, std::string_view lengthModifier)
-{
-    std::string result = "%" + conversion.flags;
-    if (conversion.width)
-        result += std::to_string(*conversion.width);
-    if (conversion.precision)
-        result += "." + std::to_string(*conversion.precision);
-    result += lengthModifier;
-    return result + conversion.letter;
-}
-
-template <class Value>
-std::string printed(const std::string& format, Value value)
-{
-    const int length = std::snprintf(nullptr, 0, format.c_str(), value);
-    if (length <= 0)
-        return {};
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    static_cast<void>(std::snprintf(text.data(), text.size(), format.c_str(), value));
-    text.pop_back();
-    return text;
-}
-
-std::string printedInteger(const Conversion& conversion, const FormatArgument::Integer& integer)
-{
-    const bool isSigned = conversion.letter == 'd' || conversion.letter == 'i';
-    int bits = conversion.lengthBits;
-    if (bits == 0)
-        bits = integer.is64 ? 64 : 32;
-    const int unused = 64 - bits;
-    const std::uint64_t shifted = integer.bits << unused;
-    const std::string format = narrowFormat(conversion, "ll");
-    if (isSigned)
-        return printed(format,
-                       static_cast<long long>(static_cast<std::int64_t>(shifted) >> unused));
-    return printed(format, static_cast<unsigned long long>(shifted >> unused));
-}
-
-/// As Windows writes an address: all its hexadecimal digits.
-std::string printedAddress(const void* pointer)
-{
-    return printed("%016llX",
-                   static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(pointer)));
-}
-
 template <class Char>
 std::basic_string<Char> converted(std::string_view narrow)
 {
@@ -197,8 +141,7 @@ std::basic_string<Char> padded(const Conversion& conversion, std::basic_string<C
     const auto width = static_cast<std::size_t>(conversion.width.value_or(0));
     if (text.size() >= width)
         return text;
-    const bool left = conversion.flags.find('-') != std::string::npos;
-    text.insert(left ? text.size() : 0, width - text.size(), static_cast<Char>(' '));
+    text.insert(conversion.has('-') ? text.size() : 0, width - text.size(), static_cast<Char>(' '));
     return text;
 }
 
@@ -218,7 +161,7 @@ std::optional<std::basic_string<Char>> convertedArgument(const Conversion& conve
             return padded(conversion, std::basic_string<Char>(1, static_cast<Char>(integer->bits)));
     }
     if (const auto* number = std::get_if<double>(&value); number != nullptr && isOneOf("fFeEgGaA"))
-        return converted<Char>(std::string_view(printed(narrowFormat(conversion, ""), *number)));
+        return converted<Char>(std::string_view(printedNumber(conversion, *number)));
     if (const auto* pointer = std::get_if<const void*>(&value); pointer != nullptr && isOneOf("p"))
         return padded(conversion, converted<Char>(std::string_view(printedAddress(*pointer))));
     if (isOneOf("sS")) {

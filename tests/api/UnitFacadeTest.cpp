@@ -5,6 +5,7 @@
 #include <functional>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -106,14 +107,23 @@ TEST(UnitFacade, ArithmeticIsReducedAndSharesNothing)
     EXPECT_EQ(area.unit->ToString(), u"m\u00B2");
 }
 
-TEST(UnitFacade, Questions)
+TEST(UnitFacade, ClassesAndCompatibility)
 {
     const Unit infusion(*unitOf({mL, perHr}));
     EXPECT_TRUE(infusion.compatibleWith(*unitOf({element(UNIT_L, NONE, 1), perMin})));
     EXPECT_FALSE(infusion.compatibleWith(unitOf({mg, perHr})));
-    EXPECT_TRUE(infusion.unitIsRate() && infusion.unitIsVolume());
-    EXPECT_FALSE(infusion.unitIsMol() || infusion.unitIsPrPt() || infusion.unitIsWeight() ||
-                 infusion.unitIsUnit());
+    const std::pair<std::shared_ptr<UnitElement>, bool (Unit::*)() const> rows[] = {
+        {perHr, &Unit::unitIsRate},
+        {mL, &Unit::unitIsVolume},
+        {element(UNIT_MOL, NONE, 1), &Unit::unitIsMol},
+        {element(UNIT_G_PT, KILO, -1), &Unit::unitIsPrPt},
+        {mg, &Unit::unitIsWeight},
+        {element(UNIT_U, NONE, 1), &Unit::unitIsUnit},
+    };
+    for (const auto& [only, isOfClass] : rows)
+        for (const auto& other : rows)
+            EXPECT_EQ((Unit(only).*other.second)(), other.second == isOfClass)
+                << static_cast<int>(only->unitType);
 }
 
 TEST(UnitFacade, NullReferencesAreReportedByName)

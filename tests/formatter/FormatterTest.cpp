@@ -23,7 +23,6 @@ TEST(Formatter, EscapeAndUnescape)
         {"<>&\"'", "&lt;&gt;&amp;&quot;&apos;"},
         {"&amp;", "&amp;amp;"},
         {"&lt", "&amp;lt"},
-        {"\xC3\xA9\xA6\xBE", "\xC3\xA9\xA6\xBE"},
         {std::string(40, 'x') + "'" + std::string(40, 'y'),
          std::string(40, 'x') + "&apos;" + std::string(40, 'y')},
     };
@@ -53,8 +52,10 @@ Text inPasses(Text text, bool escapes)
 
 TEST(Formatter, OnePassEqualsFivePasses)
 {
-    const std::string_view pieces[] = {"&",     "&amp;", "&lt;",   "&gt;", "amp;", "lt;", "<",
-                                       "&quot", ";",     "&apos;", "'",    "\"",   ">",   "text"};
+    const std::string_view pieces[] = {"&",       "&amp;", "&lt;",  "&gt;", "amp;",
+                                       "lt;",     "<",     "&quot", ";",    "&apos;",
+                                       "'",       "\"",    ">",     "text", "\xA6\xA7\xBE\xBC\xA2",
+                                       "\xC3\xA9"};
     std::mt19937 random(1);
     for (int round = 0; round < 5000; ++round) {
         std::string text;

@@ -108,7 +108,7 @@ TEST(Catalogue, HostileFilesHarmNothing)
     for (const std::string form : {"little", "big", "nohash"}) {
         const std::string good = content(CATALOGUES "small." + form + ".mo");
         const auto size = static_cast<std::uint32_t>(good.size());
-        const std::uint32_t values[] = {0,        1,        3,          7,          8,
+        const std::uint32_t values[] = {0,        1,        2,          3,          7,         8,
                                         size - 4, size - 1, 0x7FFFFFFF, 0xFFFFFFFF, 0xFFFFFFFE};
         // Every number of header, descriptors and hash table is replaced, in either byte order.
         for (std::size_t at = 4; at + 4 <= std::min<std::size_t>(good.size(), 250); at += 4) {
@@ -126,6 +126,22 @@ TEST(Catalogue, HostileFilesHarmNothing)
             }
         }
     }
+    // A smallest hash table, and a large one whose slots all name one long string.
+    std::string three = content(CATALOGUES "small.little.mo");
+    const std::uint32_t smallest = 3;
+    std::memcpy(three.data() + 20, &smallest, 4);
+    Catalogue few;
+    ASSERT_TRUE(file.load(few, three));
+    const std::string po = few.to_po();
+    EXPECT_EQ(std::count(po.begin(), po.end(), '\r') % 3, 0);
+    EXPECT_LE(std::count(po.begin(), po.end(), '\r'), 3 * 3);
+    const std::uint32_t header[] = {0x950412de, 0, 1, 28, 36, 20000, 44, 5, 80044, 5, 80044};
+    std::string shared(reinterpret_cast<const char*>(header), sizeof header);
+    for (int slot = 0; slot < 20000; ++slot)
+        shared += std::string_view("\1\0\0\0", 4);
+    shared.append(100000, 'x').append(1, '\0');
+    ASSERT_TRUE(file.load(few, shared));
+    EXPECT_LE(few.to_po().size(), 20U << 20);
     // A full hash table of slots beyond the strings, and a last string without its NUL.
     std::string full = content(CATALOGUES "small.little.mo");
     std::uint32_t hashTable = 0;

@@ -3,6 +3,7 @@
 
 #include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -24,6 +25,7 @@ TEST(GString, ToLong)
         {u"", 0, true},
         {u" \t-7", -7, true},
         {u"+7", 7, true},
+        {u"\u3000-\uFF14\u0662", -42, true},
         {u"7 ", 7, false},
         {u"x", 0, false},
         {u"  ", 0, false},
@@ -42,6 +44,19 @@ TEST(GString, ToLong)
         EXPECT_EQ(ok, row.ok) << testing::PrintToString(row.text);
         EXPECT_EQ(row.text.to_long(), row.value);
     }
+    // Digits of seventeen scripts and ASCII; before a digit also two signs and 24 kinds of space.
+    int digits = 0;
+    int beforeDigits = 0;
+    for (unsigned int unit = 1; unit <= 0xFFFF; ++unit) {
+        bool ok = false;
+        WideString text(1, static_cast<WideChar>(unit));
+        GString(text).to_long(&ok);
+        digits += ok ? 1 : 0;
+        GString(text + WideChar('7')).to_long(&ok);
+        beforeDigits += ok ? 1 : 0;
+    }
+    EXPECT_EQ(digits, 18 * 10);
+    EXPECT_EQ(beforeDigits, digits + 2 + 24);
 }
 
 TEST(GString, Booleans)
@@ -72,6 +87,17 @@ TEST(GString, TemporaryBuffersLastForFifteenMoreCalls)
     EXPECT_STREQ(ansi[1], "caf\xE9 1");
     EXPECT_STREQ(other[0], "caf\xC3\xA9 0");
     EXPECT_EQ(std::set<const char*>(ansi.begin(), ansi.end()).size(), 16U);
+}
+
+TEST(GString, TemporaryBuffersAreSharedByThreads)
+{
+    const auto use = [] {
+        for (int i = 0; i < 20000; ++i)
+            static_cast<void>(GString(u"text of a thread").to_temp_c_str());
+    };
+    std::thread other(use);
+    use();
+    other.join();
 }
 
 /// Uses the buffers while the process ends, when the statics of the library may have gone.

@@ -1,6 +1,7 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "tests/printing.h"
 
+#include <cmath>
 #include <limits>
 #include <tuple>
 
@@ -29,6 +30,13 @@ TEST(Format, ConversionsOfEveryKind)
         {GString::format(u"%+05d|%-5d|%#x|%08.3f|%.*f", 42, 42, 255, 3.14159, 1, 2.25),
          u"+0042|42   |0xff|0003.142|2.2"},
         {GString::format(u"%e %.3g %G", 1234.5, 1234.5, 1e-10), u"1.234500e+03 1.23e+03 1E-10"},
+        // What the runtimes' own printf functions make different things of.
+        {GString::format(u"%+ u|% x|%#u|%#.o|%#.x|%.d", 42U, 42, 42, 0, 0, 0), u"42|2a|42|0||"},
+        {GString::format(u"% 05d|%-05d|%05.3d|%#07x|%#o", 42, 42, 42, 42, 8),
+         u" 0042|42   |  042|0x0002a|010"},
+        {GString::format(u"%f|%05E|%#.3g|%#g", -std::nan(""), 1 / 0.0, 100.0, 999999.95),
+         u"-nan|  INF|100.|1.00000e+06"},
+        {GString::format(u"%010.2a|%A", 1.5, 1.0), u"0x01.80p+0|0X1P+0"},
         {GString::format(u"%c%c %5c", 'm', 0x00B2, 'x'), u"m\u00B2     x"},
         {GString::format(u"%I64d", std::numeric_limits<std::int64_t>::min()),
          u"-9223372036854775808"},

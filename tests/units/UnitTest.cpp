@@ -78,6 +78,9 @@ TEST(Unit, CompatibilityAndEquivalence)
         {unitOf({mg, perKg}), unitOf({}), true, false},
         {unitOf({m, m}), unitOf({m}), true, false},
         {unitOf({g}), unitOf({{UNIT_G_PT, NONE, 1}}), false, false},
+        {unitOf({{UNIT_G, NONE, 40}, {UNIT_G, NONE, 24}}), unitOf({mL}), false, false},
+        {unitOf({{UNIT_G, NONE, 256}}), unitOf({{UNIT_L, NONE, 4}}), false, false},
+        {unitOf({g, g, g, g, g, g, g, g, g}), unitOf({mL}), false, false},
     };
     for (const auto& [a, b, compatible, equivalent] : rows) {
         EXPECT_EQ(a.compatibleWith(b), compatible) << testing::PrintToString(a);

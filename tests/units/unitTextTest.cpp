@@ -59,7 +59,8 @@ TEST(UnitText, Values)
 {
     const std::tuple<double, Unit, int, GString> rows[] = {
         {2.5, unitOf({mg, perKg}), 1, u"2.5 mg/kg"},
-        {40, unitOf({mL, perHr}), 0, u"40 mL/hr"},
+        {2.75, unitOf({mg}), 0, u"3 mg"},
+        {1234567, unitOf({mL, perHr}), 0, u"1234567 mL/hr"},
         {7, Unit(), 2, u"7.00"},
         {1.0 / 3, unitOf({mg}), -1, u"0.333333 mg"},
         {1.0 / 3, unitOf({mg}), 3, u"0.333 mg"},
