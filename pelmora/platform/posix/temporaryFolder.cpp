@@ -7,7 +7,7 @@ namespace Pelmora::Native::Platform
 
 std::string temporaryFolder()
 {
-    std::string folder = firstOfEnvironment({"TMPDIR", "TEMP", "TMP"}, ".");
+    std::string folder = firstOfEnvironment({"TMPDIR", "TEMP", "TMP"}, "/tmp");
     if (folder.back() != '/')
         folder += '/';
     return folder;
