@@ -11,4 +11,5 @@
 #include "pelmora/api/NullReferenceError.h"
 #include "pelmora/api/UnitFacade.h"
 #include "pelmora/api/Vocabulary.h"
+#include "pelmora/api/labUnitLabels.h"
 #include "pelmora/version.h"

@@ -2,7 +2,6 @@
 
 #include "pelmora/base/detail/NeverDestroyed.h"
 #include "pelmora/log/LogStream.h"
-#include "pelmora/units/unitText.h"
 
 #include <algorithm>
 #include <cctype>
@@ -164,12 +163,6 @@ translate_from_catalogue(std::string msgid) // NOLINT: by value, as hosts' trans
     if (catalogue == nullptr)
         return {};
     return GString(catalogue->lookup(msgid), gettext_locale.catalogue_code_page());
-}
-
-void look_up_lab_unit_labels(const Catalogue& catalogue)
-{
-    for (const char* label : labUnitLabels)
-        static_cast<void>(catalogue.translate(label));
 }
 
 } // namespace Pelmora::Native

@@ -32,17 +32,17 @@ public:
     /// Throws std::out_of_range when fewer than two characters stand before ".mo".
     void init(const std::string& path);
 
-    /// Null for none. Without a translator nothing is translated, also with a catalogue; a host
-    /// that has nothing special in mind installs `translate_from_catalogue`.
+    /// Null for none. Without a translator nothing is translated, even with a catalogue; a host
+    /// without wishes of its own installs `translate_from_catalogue`.
     void set_translator(Translator translator) noexcept { translator_ = translator; }
 
     /// Whether texts that are not translated are reported in the error log; off at first.
     void set_log_missing(bool report) noexcept { logMissing_ = report; }
 
-    /// What the translator says, or `msgid` itself as text of the ANSI code page. The catalogue is
-    /// not searched here, on purpose: it only decides that a missing translator is worth a report.
-    /// `codePage` is that of narrow translations and changes nothing so far.
-    /// An exception of the translator's passes through.
+    /// What the translator says, or `msgid` itself as text of the ANSI code page. Only the
+    /// translator is asked, on purpose: a loaded catalogue merely makes untranslated texts
+    /// reportable when there is no translator. `codePage` is that of narrow translations and has no
+    /// effect so far. An exception that the translator throws passes through.
     GString translate(const std::string& msgid, unsigned int codePage) const;
 
     /// Translates a text without its tag: one to three characters, a letter and letters or digits,
@@ -90,9 +90,5 @@ extern PELMORA_API TextLocale& gettext_locale;
 /// The obvious translator: answers from the catalogue of `gettext_locale`, whose text is read in
 /// the encoding that its header names, if that is UTF-8, or in the language's code page.
 PELMORA_API GString translate_from_catalogue(std::string msgid);
-
-/// Looks up the two labels of laboratory values, which every catalogue is expected to hold, and
-/// discards what it finds. Nothing inside the library needs it.
-PELMORA_API void look_up_lab_unit_labels(const Catalogue& catalogue);
 
 } // namespace Pelmora::Native

@@ -4,7 +4,6 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "pelmora/units/UnitValue.h"
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -28,9 +27,5 @@ PELMORA_API std::string formatSignificant(double value, int digits);
 /// leading zeros, on purpose also signs and the "e" and "+" of an exponent. Sets `hasPoint` when
 /// there is a point and leaves it alone otherwise.
 PELMORA_API int countSignificantDigits(std::string_view text, bool& hasPoint) noexcept;
-
-/// The message identifiers of the two units in which laboratory values are labelled. The engine has
-/// no deci prefix and never makes these texts itself.
-inline constexpr std::array<const char*, 2> labUnitLabels = {"r|mg/dL", "r|mmol/L"};
 
 } // namespace Pelmora::Native
