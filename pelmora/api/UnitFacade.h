@@ -82,7 +82,9 @@ public:
     bool unitIsWeight() const;
     bool unitIsUnit() const;
 
-    /// Whether values in the two units measure the same and convert into each other.
+    /// Whether the two ISO forms have equal elements, as of mg/min and g/hr. Values in the two
+    /// units then convert into each other, unless the ISO form counts equal elements of one unit
+    /// once, as it does on purpose: m·m and m are compatible, and their values do not convert.
     bool compatibleWith(const Unit& u) const;
     bool compatibleWith(const std::shared_ptr<Unit>& u) const;
 
