@@ -3,14 +3,17 @@
 #include "pelmora/base/detail/NeverDestroyed.h"
 #include "pelmora/gettext/TextLocale.h"
 #include "pelmora/log/osVersion.h"
+#include "pelmora/platform/appendingFile.h"
+#include "pelmora/platform/keepLoaded.h"
 #include "pelmora/platform/localTime.h"
 #include "pelmora/platform/notepad.h"
+#include "pelmora/platform/processId.h"
 #include "pelmora/platform/temporaryFolder.h"
 
 #include <array>
 #include <cstdlib>
-#include <cstring>
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace Pelmora::Native
@@ -48,7 +51,8 @@ std::string logPath()
     return folder + name;
 }
 
-/// A translated label; a translator that throws must not take the log with it.
+/// A translated label; a translator that throws must not take the log with it. The labels need no
+/// memory as they stand, so that the log begins also when there is none.
 std::string label(const char* text)
 {
     try {
@@ -58,14 +62,23 @@ std::string label(const char* text)
     }
 }
 
-template <class Value>
-std::string printed(const char* format, Value value)
+/// A number's text, made without allocating.
+class Printed
 {
-    // DBL_MAX as "%f" has 309 digits before the point.
-    std::array<char, 400> text;
-    const int length = std::snprintf(text.data(), text.size(), format, value);
-    return {text.data(), static_cast<std::size_t>(length)};
-}
+public:
+    template <class... Values>
+    explicit Printed(const char* format, Values... values)
+    {
+        const int length = std::snprintf(buffer_.data(), buffer_.size(), format, values...);
+        length_ = static_cast<std::size_t>(length);
+    }
+
+    std::string_view text() const { return {buffer_.data(), length_}; }
+
+private:
+    std::array<char, 400> buffer_; // DBL_MAX as "%f" has 309 digits before the point.
+    std::size_t length_;
+};
 
 } // namespace
 
@@ -76,12 +89,12 @@ bool LogInterface::is_ok()
     return true;
 }
 
-LogStream::LogStream() : path_(logPath())
+LogStream::LogStream() : path_(logPath()), process_(Platform::processId())
 {
     const bool appends = state().destroyedOnce || state().settings.append_mode;
-    file_ = std::fopen(path_.c_str(), appends ? "a" : "w");
+    file_ = Platform::openForAppending(path_, !appends);
     if (file_ == nullptr) {
-        static_cast<void>(std::fputs(("unable to open " + path_).c_str(), stdout));
+        static_cast<void>(std::printf("unable to open %s", path_.c_str()));
         static_cast<void>(std::fflush(stdout));
     }
 }
@@ -89,43 +102,56 @@ LogStream::LogStream() : path_(logPath())
 LogStream::~LogStream()
 {
     state().destroyedOnce = true;
-    if (file_ != nullptr) {
-        *this << "-eof-" << endl;
-        // Left to the end of the process on purpose: a later log appends to the same file.
-    }
+    // When a forked child ends, its parent's log goes on.
+    if (process_ != Platform::processId())
+        return;
+    // A translator may end the program while it is asked for a label.
+    endComposing();
+    *this << "-eof-" << endl;
+    // The file is left open: what `file()` gave stays valid until the process ends.
     if (state().settings.show_in_notepad)
         Platform::openInNotepad(path_);
 }
 
-/// Writes what stands at the top. The labels are translated, and a translation that is missing, or
-/// a translator that logs, comes back here: that waits until the header is complete.
+/// Writes the header. Translating its labels may itself log; that output waits in `pending_` until
+/// the header is written. Without memory the header lacks what needs some.
 void LogStream::begin()
 {
-    const std::string text = file_ == nullptr ? std::string() : header();
-    composesHeader_ = false;
-    putToFile(text);
     if (file_ != nullptr) {
-        write_os_version(*this);
-        write_separator();
-        if (!state().settings.header_text.empty()) {
-            *this << state().settings.header_text << endl;
-            write_separator();
-        }
-        if (state().destroyedOnce)
-            *this << "Warning: the LogStream has been destroyed once" << endl;
+        const std::string date = label("Date:"); // one after the other: each may report
+        const std::string time = label(" Time:");
+        composesHeader_ = false;
+        writeHeader(date, time);
     }
-    putToFile(std::exchange(pending_, std::string()));
+    endComposing();
 }
 
-std::string LogStream::header() const
+void LogStream::writeHeader(const std::string& date, const std::string& time)
 {
     const Platform::LocalTime now = Platform::localNow();
-    const auto twoDigits = [](unsigned int number) { return printed("%02u", number); };
-    const std::string date = label("Date:"); // one after the other: each may report
-    const std::string time = label(" Time:");
-    return date + twoDigits(now.month) + "/" + twoDigits(now.day) + "/" +
-           twoDigits(now.year % 100) + time + twoDigits(now.hour) + ":" + twoDigits(now.minute) +
-           ":" + twoDigits(now.second) + "\n";
+    *this << date;
+    put(Printed("%02u/%02u/%02u", now.month, now.day, now.year % 100).text());
+    *this << time;
+    put(Printed("%02u:%02u:%02u", now.hour, now.minute, now.second).text());
+    *this << endl;
+    try {
+        write_os_version(*this);
+    } catch (const std::bad_alloc&) {
+    }
+    write_separator();
+    if (!state().settings.header_text.empty()) {
+        *this << state().settings.header_text << endl;
+        write_separator();
+    }
+    if (state().destroyedOnce)
+        *this << "Warning: the LogStream has been destroyed once" << endl;
+}
+
+void LogStream::endComposing()
+{
+    composesHeader_ = false;
+    putToFile(pending_);
+    pending_ = {};
 }
 
 std::FILE* LogStream::file()
@@ -153,7 +179,7 @@ void LogStream::putToFile(std::string_view bytes)
         static_cast<void>(std::fwrite(bytes.data(), 1, bytes.size(), open));
         static_cast<void>(std::fflush(open));
     }
-    writtenMarker_ = marker_;
+    writtenMarker_.store(marker_, std::memory_order_relaxed);
 }
 
 LogStream& LogStream::operator<<(const char* text)
@@ -173,53 +199,54 @@ LogStream& LogStream::operator<<(char character)
 
 LogStream& LogStream::operator<<(short number)
 {
-    return put(printed("%hd", number));
+    return put(Printed("%hd", number).text());
 }
 
 LogStream& LogStream::operator<<(unsigned short number)
 {
-    return put(printed("%hu", number));
+    return put(Printed("%hu", number).text());
 }
 
 LogStream& LogStream::operator<<(int number)
 {
-    return put(printed("%d", number));
+    return put(Printed("%d", number).text());
 }
 
 LogStream& LogStream::operator<<(unsigned int number)
 {
-    return put(printed("%u", number));
+    return put(Printed("%u", number).text());
 }
 
 LogStream& LogStream::operator<<(long number)
 {
-    return put(printed("%ld", number));
+    return put(Printed("%ld", number).text());
 }
 
 LogStream& LogStream::operator<<(unsigned long number)
 {
-    return put(printed("%lu", number));
+    return put(Printed("%lu", number).text());
 }
 
 LogStream& LogStream::operator<<(long long number)
 {
-    return put(printed("%lld", number));
+    return put(Printed("%lld", number).text());
 }
 
 LogStream& LogStream::operator<<(unsigned long long number)
 {
-    return put(printed("%llu", number));
+    return put(Printed("%llu", number).text());
 }
 
 LogStream& LogStream::operator<<(double number)
 {
-    return put(printed("%f", number));
+    return put(Printed("%f", number).text());
 }
 
 LogStream& LogStream::operator<<(const void* address)
 {
-    return put(printed("0x%llx",
-                       static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(address))));
+    return put(Printed("0x%llx",
+                       static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(address)))
+                   .text());
 }
 
 LogStream& LogStream::operator<<(bool value)
@@ -245,7 +272,9 @@ LogStream& get_log()
     if (instance == nullptr) {
         // In place before its header is written, so that whoever logs meanwhile finds this one.
         instance.reset(new LogStream());
-        // Not every C runtime takes a handler while the process ends: a log made then has no end.
+        // The handler and the log's state must outlive the last unload.
+        Platform::keepLoaded();
+        // atexit cannot be relied on during exit: a log that is made then gets no end marker.
         if (!state().destroyedOnce)
             static_cast<void>(std::atexit(endLog));
         instance->begin();

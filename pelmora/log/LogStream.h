@@ -3,6 +3,7 @@
 #include "pelmora/export.h"
 #include "pelmora/log/LogInterface.h"
 
+#include <atomic>
 #include <cstdint>
 #include <cstdio>
 #include <string>
@@ -14,13 +15,20 @@ namespace Pelmora::Native
 /// The process's error log, a text file in the temporary folder, which is "errors.txt" there unless
 /// `log_settings` says otherwise. `get_log` makes it on first use: the file is begun anew, with the
 /// date, the running system and a separator. It ends with "-eof-" at the end of the process; what
-/// is logged after that, by destructors of static objects, goes to the same file behind a second
+/// is logged after that, by destructors of static objects, goes to the same file after a second
 /// header with a warning, and no further end. On Windows, the end comes after the destructors of
-/// the program's own static objects.
+/// the program's own static objects. A forked child writes no end.
 ///
 /// Each item is in the file when its insertion returns, so that the file is complete also after a
-/// crash. When the file cannot be opened, everything is dropped without an error. Narrow text is
-/// written as it is, in the ANSI code page by convention.
+/// crash. It goes to the end of the file: of several programs that log at once, the last one to
+/// start begins the file anew, and from then on no line is written over. Narrow text is written as
+/// it is, in the ANSI code page by convention. Where memory runs out, parts of the header may be
+/// missing.
+///
+/// When the file cannot be opened, "unable to open " and its path are printed on standard output
+/// without a line end, and everything that is logged is dropped without an error.
+///
+/// Once there is a log, the library stays loaded until the process ends.
 ///
 /// There is no lock: lines of several threads may mix item by item, and the first use comes from
 /// one thread.
@@ -61,14 +69,17 @@ private:
 
     LogStream();
     void begin();
-    std::string header() const;
+    void writeHeader(const std::string& date, const std::string& time);
+    void endComposing();
     LogStream& put(std::string_view bytes);
     void putToFile(std::string_view bytes);
 
     std::FILE* file_ = nullptr;
     std::string path_;
+    // Nothing here reads the two markers; they belong to the layout. Every write makes them equal.
     std::int32_t marker_ = 0;
-    std::int32_t writtenMarker_ = 0; ///< every write makes it equal to `marker_`
+    std::atomic<std::int32_t> writtenMarker_ = 0;
+    std::uint32_t process_; ///< the one that ends the log
     bool composesHeader_ = true;
     std::string pending_; ///< what was logged while the header was composed
 };

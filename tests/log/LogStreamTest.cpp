@@ -3,22 +3,67 @@
 #include "pelmora/gettext/TextLocale.h"
 #include "pelmora/platform/temporaryFolder.h"
 
-#include <algorithm>
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
+#include <iomanip>
 #include <iterator>
+#include <set>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
 #ifdef _WIN32
 #include <windows.h>
+#else
+#include <dlfcn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #endif
 
 namespace Pelmora::Native
 {
 namespace
 {
+
+#ifdef _WIN32
+void leaveGreenwich()
+{
+    _putenv("TZ="); // which GetLocalTime does not know either
+}
+
+void killThisProcess()
+{
+    TerminateProcess(GetCurrentProcess(), 1);
+}
+
+void forkAndEndTheChild() {}
+#else
+void leaveGreenwich()
+{
+    setenv("TZ", "<+07>-7", 1);
+}
+
+void killThisProcess()
+{
+    std::raise(SIGKILL);
+}
+
+void forkAndEndTheChild()
+{
+    if (fork() == 0)
+        std::exit(0);
+    wait(nullptr);
+}
+
+void* LoadLibraryA(const char* path)
+{
+    return dlopen(path, RTLD_NOW);
+}
+const auto GetProcAddress = dlsym;
+const auto FreeLibrary = dlclose;
+#endif
 
 /// Each test makes its log in a process of its own, which ends in the way that the test is about.
 class LogStreamTest : public testing::Test
@@ -28,6 +73,7 @@ protected:
     {
         testing::GTEST_FLAG(death_test_style) = "threadsafe";
         log_settings().file_name = name_;
+        leaveGreenwich();
     }
     ~LogStreamTest() override { std::remove(path().c_str()); }
 
@@ -36,16 +82,15 @@ protected:
     /// The file, with each header up to its first separator as "HEADER".
     std::string written() const
     {
-        const std::string dateLine = "Date:00/00/00 Time:00:00:00\n";
+        const std::set<std::string> dateLines = this->dateLines();
+        const std::size_t length = dateLines.begin()->size();
         const std::string separator = std::string(75, '-') + "\n";
         std::ifstream file(path());
         const std::string text{std::istreambuf_iterator<char>(file), {}};
         std::string result;
         for (std::size_t at = 0; at < text.size();) {
-            std::string line = text.substr(at, dateLine.size());
-            std::replace_if(line.begin(), line.end(), isDigit, '0');
-            const std::size_t end = text.find("\n" + separator, at + dateLine.size() + 1);
-            if (line == dateLine && end != std::string::npos) {
+            const std::size_t end = text.find("\n" + separator, at + length + 1);
+            if (dateLines.count(text.substr(at, length)) > 0 && end != std::string::npos) {
                 result += "HEADER\n";
                 at = end + 1 + separator.size();
             } else {
@@ -55,22 +100,24 @@ protected:
         return result;
     }
 
-    static bool isDigit(char character) { return character >= '0' && character <= '9'; }
-
 private:
+    /// For each second since the test began.
+    std::set<std::string> dateLines() const
+    {
+        std::set<std::string> lines;
+        for (std::time_t time = start_; time <= std::time(nullptr) + 1; ++time) {
+            std::ostringstream line;
+            line << std::put_time(std::localtime(&time), "Date:%m/%d/%y Time:%H:%M:%S\n");
+            lines.insert(line.str());
+        }
+        return lines;
+    }
+
+    std::time_t start_ = std::time(nullptr);
     std::string name_ =
         std::string("pelmora-") + testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 using LogStreamDeathTest = LogStreamTest;
-
-void killThisProcess()
-{
-#ifdef _WIN32
-    TerminateProcess(GetCurrentProcess(), 1);
-#else
-    std::raise(SIGKILL);
-#endif
-}
 
 bool endedAtAll(int)
 {
@@ -85,14 +132,15 @@ TEST_F(LogStreamDeathTest, EveryItemOutlivesTheProcessThatIsKilled)
                       << short(-1) << ' ' << static_cast<unsigned short>(65535) << ' ' << -2 << ' '
                       << 4000000000U << ' ' << -3L << ' ' << 4UL << ' ' << 5LL << ' ' << 2.5F << ' '
                       << -0.125 << ' ' << reinterpret_cast<const void*>(0x1F) << ' ' << true << ' '
-                      << false << endl;
+                      << false << ' ' << 1e300 << endl;
             get_log().write("written");
             get_log() << reinterpret_cast<const void*>(0x123456789ABCDEF0);
             killThisProcess();
         },
         endedAtAll, "");
     EXPECT_EQ(written(), "HEADER\ntext string c -1 65535 -2 4000000000 -3 4 5 2.500000 -0.125000 "
-                         "0x1f true false\nwritten0x123456789abcdef0");
+                         "0x1f true false " +
+                             std::to_string(1e300) + "\nwritten0x123456789abcdef0");
 }
 
 bool logsLate = false;
@@ -110,8 +158,9 @@ TEST_F(LogStreamDeathTest, WhatIsLoggedAfterTheEndIsAppended)
 {
     EXPECT_EXIT(
         {
-            logsLate = true;
             get_log() << "first" << endl;
+            forkAndEndTheChild();
+            logsLate = true;
             std::exit(0);
         },
         testing::ExitedWithCode(0), "");
@@ -125,7 +174,7 @@ GString answerNothing(std::string)
     return {};
 }
 
-TEST_F(LogStreamDeathTest, TranslationsOfTheHeaderReportBehindIt)
+TEST_F(LogStreamDeathTest, TranslationsOfTheHeaderReportAfterIt)
 {
     EXPECT_EXIT(
         {
@@ -143,18 +192,60 @@ TEST_F(LogStreamDeathTest, TranslationsOfTheHeaderReportBehindIt)
                              missing + " Time:\"\n" + missing + "Dose\"\nasked\n-eof-\n");
 }
 
-TEST_F(LogStreamDeathTest, FirstLogOfAProcessTruncatesUnlessToldOtherwise)
+TEST_F(LogStreamDeathTest, BeginsEvenWhenTheTranslatorThrows)
+{
+    EXPECT_EXIT(
+        {
+            gettext_locale.set_translator([](std::string) -> GString { throw "no text"; });
+            get_log() << "begun" << endl;
+            killThisProcess();
+        },
+        endedAtAll, "");
+    EXPECT_EQ(written(), "HEADER\nbegun\n");
+}
+
+TEST_F(LogStreamDeathTest, FirstLogOfAProcessTruncatesUnlessToldOtherwiseAndThenAppends)
 {
     for (const bool appends : {false, true}) {
         EXPECT_EXIT(
             {
                 log_settings().append_mode = appends;
                 get_log() << appends << endl;
+                std::ofstream(path(), std::ios::app) << "another program's\n";
                 std::exit(0);
             },
             testing::ExitedWithCode(0), "");
     }
-    EXPECT_EQ(written(), "HEADER\nfalse\n-eof-\nHEADER\ntrue\n-eof-\n");
+    EXPECT_EQ(written(), "HEADER\nfalse\nanother program's\n-eof-\n"
+                         "HEADER\ntrue\nanother program's\n-eof-\n");
+}
+
+/// With a copy of the library that is loaded for it.
+void logAndUnload(const std::string& fileName, const char* line)
+{
+    const auto library = LoadLibraryA(PELMORA_LIBRARY);
+    const auto find = [&](const char* symbol) {
+        return reinterpret_cast<void*>(GetProcAddress(library, symbol));
+    };
+    const auto settings =
+        reinterpret_cast<decltype(&log_settings)>(find("_ZN7Pelmora6Native12log_settingsEv"));
+    settings().file_name = fileName;
+    LogInterface& log =
+        reinterpret_cast<decltype(&get_log)>(find("_ZN7Pelmora6Native7get_logEv"))();
+    log.write(line);
+    FreeLibrary(library);
+}
+
+TEST_F(LogStreamDeathTest, GoesOnWhenTheLibraryIsUnloadedAndLoadedAgain)
+{
+    EXPECT_EXIT(
+        {
+            logAndUnload(log_settings().file_name, "first\n");
+            logAndUnload(log_settings().file_name, "second\n");
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_EQ(written(), "HEADER\nfirst\nsecond\n-eof-\n");
 }
 
 TEST_F(LogStreamDeathTest, AFileThatCannotBeMadeDropsEverything)

@@ -3,6 +3,6 @@
 namespace Pelmora::Native::Platform
 {
 
-void openInNotepad(const std::string& /*path*/) {}
+void openInNotepad(const std::string& /*path*/) noexcept {}
 
 } // namespace Pelmora::Native::Platform

@@ -1,13 +1,18 @@
 #include "pelmora/platform/notepad.h"
 
+#include <new>
+
 #include <windows.h>
 
 namespace Pelmora::Native::Platform
 {
 
-void openInNotepad(const std::string& path)
+void openInNotepad(const std::string& path) noexcept
 {
-    WinExec(("notepad " + path).c_str(), SW_SHOWNORMAL);
+    try {
+        WinExec(("notepad " + path).c_str(), SW_SHOWNORMAL);
+    } catch (const std::bad_alloc&) {
+    }
 }
 
 } // namespace Pelmora::Native::Platform

@@ -1,0 +1,23 @@
+#include "pelmora/platform/appendingFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Pelmora::Native::Platform
+{
+
+std::FILE* openForAppending(const std::string& path, bool truncate) noexcept
+{
+    constexpr mode_t readAndWriteAsTheUserAllows = 0666;
+    const int descriptor =
+        open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | (truncate ? O_TRUNC : 0),
+             readAndWriteAsTheUserAllows);
+    if (descriptor < 0)
+        return nullptr;
+    std::FILE* const file = fdopen(descriptor, "a");
+    if (file == nullptr)
+        close(descriptor);
+    return file;
+}
+
+} // namespace Pelmora::Native::Platform
