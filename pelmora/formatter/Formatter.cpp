@@ -34,7 +34,7 @@ constexpr std::array<std::uint8_t, 64> entityNumbers = [] {
     std::array<std::uint8_t, 64> numbers{};
     numbers.fill(entities.size());
     for (std::size_t i = 0; i < entities.size(); ++i)
-        numbers[static_cast<std::size_t>(entities[i].character)] = static_cast<std::uint8_t>(i);
+        numbers[static_cast<unsigned char>(entities[i].character)] = static_cast<std::uint8_t>(i);
     return numbers;
 }();
 

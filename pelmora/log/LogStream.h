@@ -32,7 +32,7 @@ namespace Pelmora::Native
 ///
 /// There is no lock: lines of several threads may mix item by item, and the first use comes from
 /// one thread.
-class PELMORA_API LogStream : public LogInterface
+class PELMORA_API LogStream final : public LogInterface
 {
 public:
     ~LogStream() override;

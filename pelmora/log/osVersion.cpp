@@ -29,27 +29,27 @@ constexpr Range exactly(std::uint32_t value)
 
 struct NameRow {
     std::uint32_t platform;
-    Range major;
-    Range minor;
+    Range major = any;
+    Range minor = any;
     const char* name;
-    bool appendsNumbers;
-    const char* revisions; ///< second characters of the service pack that stand for a revision
-    const char* revisionName;
+    const char* revisions = ""; ///< second characters of the service pack that stand for a revision
+    const char* revisionName = "";
+    bool appendsNumbers = false;
 };
 
 /// The first row that fits gives the name.
 constexpr NameRow names[] = {
-    {0, any, any, "Win32s", false, "", ""},
-    {1, exactly(4), exactly(0), "Windows 95", false, "CB", " OSR2"},
-    {1, exactly(4), exactly(10), "Windows 98", false, "A", " SE"},
-    {1, exactly(4), exactly(90), "Windows ME", false, "", ""},
-    {1, any, any, "Windows 9x ", true, "", ""},
-    {2, exactly(6), any, "Windows Vista", false, "", ""},
-    {2, exactly(5), exactly(2), "Windows Server 2003", false, "", ""},
-    {2, exactly(5), exactly(1), "Windows XP", false, "", ""},
-    {2, exactly(5), exactly(0), "Windows 2000", false, "", ""},
-    {2, {0, 4}, any, "Windows NT ", true, "", ""},
-    {2, any, any, "Windows ", true, "", ""},
+    {.platform = 0, .name = "Win32s"},
+    {1, exactly(4), exactly(0), "Windows 95", "CB", " OSR2"},
+    {1, exactly(4), exactly(10), "Windows 98", "A", " SE"},
+    {1, exactly(4), exactly(90), "Windows ME"},
+    {.platform = 1, .name = "Windows 9x ", .appendsNumbers = true},
+    {2, exactly(6), any, "Windows Vista"},
+    {2, exactly(5), exactly(2), "Windows Server 2003"},
+    {2, exactly(5), exactly(1), "Windows XP"},
+    {2, exactly(5), exactly(0), "Windows 2000"},
+    {.platform = 2, .major = {0, 4}, .name = "Windows NT ", .appendsNumbers = true},
+    {.platform = 2, .name = "Windows ", .appendsNumbers = true},
 };
 
 std::string nameOf(const OsVersion& version)

@@ -13,7 +13,7 @@ std::FILE* openForAppending(const std::string& path, bool truncate) noexcept
         std::FILE* const emptied = std::fopen(path.c_str(), "w");
         if (emptied == nullptr)
             return nullptr;
-        std::fclose(emptied);
+        static_cast<void>(std::fclose(emptied));
     }
     // The system moves to the end itself when the handle may append and do nothing else. The C
     // runtime's "a" seeks before it writes, and another program may write in between.
