@@ -1,0 +1,156 @@
+#include "checks.h"
+
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+
+static void catalogues(const char* folder)
+{
+    pelmora_catalogue* catalogue = NULL;
+    snprintf(narrow, sizeof narrow, "%s/small.little", folder);
+    OK(pelmora_catalogue_create(narrow, &catalogue));
+    OK(pelmora_catalogue_translate(catalogue, "Dose", WIDE));
+    CHECK(isWide("Dosis"));
+    OK(pelmora_catalogue_lookup(catalogue, "Dose", NARROW));
+    CHECK(isNarrow("Dosis"));
+    FAILS(PELMORA_NOT_FOUND, pelmora_catalogue_translate(catalogue, "dose", WIDE));
+    FAILS(PELMORA_NOT_FOUND, pelmora_catalogue_lookup(catalogue, "dose", NARROW));
+    OK(pelmora_catalogue_to_po(catalogue, NARROW));
+    CHECK(strstr(narrow, "msgid\t\"ab\"\r\nmsgstr\t\"zwei\"") != NULL);
+    pelmora_catalogue_destroy(catalogue);
+    pelmora_catalogue_destroy(NULL);
+    FAILS(PELMORA_NOT_FOUND, pelmora_catalogue_create("not/there.mo", &catalogue));
+    CHECK(catalogue == NULL);
+}
+
+/* Answers with as many 'x' as the context says, which is more than it is offered at first. */
+static size_t PELMORA_CALL translateToLong(const char* msgid, pelmora_char16* buffer,
+                                           size_t capacity, void* context)
+{
+    const size_t needed = *(const size_t*)context;
+    size_t i;
+    if (strcmp(msgid, "long") != 0)
+        return 0;
+    for (i = 0; i < needed && needed < capacity; ++i)
+        buffer[i] = 'x';
+    return needed;
+}
+
+static void language(const char* folder)
+{
+    size_t needed = 300;
+    OK(pelmora_language_init_from_culture());
+    snprintf(narrow, sizeof narrow, "%s/small.little.mo", folder);
+    OK(pelmora_language_init(narrow));
+    OK(pelmora_translate("Dose", WIDE));
+    CHECK(isWide("Dose"));
+    OK(pelmora_language_use_catalogue());
+    OK(pelmora_tr("r|Dose", WIDE));
+    CHECK(isWide("Dosis"));
+    OK(pelmora_tr(NULL, WIDE));
+    CHECK(isWide(""));
+    OK(pelmora_language_dump(NARROW));
+    CHECK(strstr(narrow, "Dosis") != NULL);
+
+    OK(pelmora_language_set_translator(translateToLong, &needed));
+    OK(pelmora_translate("long", WIDE));
+    CHECK(length == needed && wide[needed - 1] == 'x');
+    OK(pelmora_translate("short", WIDE));
+    CHECK(isWide("short"));
+    OK(pelmora_language_set_log_missing(1));
+    OK(pelmora_translate("reported", WIDE));
+    OK(pelmora_language_set_log_missing(0));
+    OK(pelmora_language_set_translator(NULL, NULL));
+
+    FAILS(PELMORA_BAD_ARGUMENT, pelmora_language_init("e.mo"));
+    OK(pelmora_language_init("ja"));
+    OK(pelmora_language_code(NARROW));
+    CHECK(isNarrow("ja"));
+    OK(pelmora_language_code_page(&natural));
+    CHECK(natural == 932);
+    OK(pelmora_language_uses_non_latin_code_page(&truth));
+    CHECK(truth == 1);
+    OK(pelmora_language_charset(NARROW));
+    CHECK(isNarrow("Shift_JIS"));
+    OK(pelmora_language_id(&natural));
+    CHECK(natural == 0x411);
+    FAILS(PELMORA_NOT_FOUND, pelmora_language_dump(NARROW));
+}
+
+static void logging(void)
+{
+    OK(pelmora_log_configure("pelmora-c-test.txt", "Header", 0));
+    OK(pelmora_log_show_in_notepad(0));
+    OK(pelmora_log_write("a"));
+    OK(pelmora_log_end_line());
+    OK(pelmora_log_signed(-1));
+    OK(pelmora_log_unsigned(2));
+    OK(pelmora_log_double(0.5));
+    OK(pelmora_log_pointer(NULL));
+    OK(pelmora_log_bool(1));
+    OK(pelmora_log_line("!"));
+    OK(pelmora_log_separator());
+    OK(pelmora_log_os_version());
+    OK(pelmora_log_path(NARROW));
+    CHECK(strstr(narrow, "pelmora-c-test.txt") != NULL);
+    readFile(narrow);
+    CHECK(strstr(narrow, "Header") != NULL);
+    CHECK(strstr(narrow, "a\n-120.5000000x0true!\n-----") != NULL ||
+          strstr(narrow, "a\r\n-120.5000000x0true!\r\n-----") != NULL);
+
+    OK(pelmora_os_description(2, 5, 1, 2600, "Service Pack 3", NARROW));
+    CHECK(isNarrow("Windows XP Service Pack 3 (Build 2600)"));
+}
+
+static void xml(const char* folder)
+{
+    pelmora_xml* document = NULL;
+    FILE* file = NULL;
+    OK(pelmora_xml_create(&document));
+    FAILS(PELMORA_BAD_ARGUMENT, pelmora_xml_element(document, w("Action"), WIDE));
+    OK(pelmora_xml_parse_text(document,
+                              w("<S v='1'><Action><Event id='x'>wheeze</Event></Action></S>")));
+    OK(pelmora_xml_element_with_attribute(document, w("id"), w("x"), WIDE));
+    CHECK(isWide("<Event id=\"x\">wheeze</Event>"));
+    FAILS(PELMORA_NOT_FOUND, pelmora_xml_element_with_attribute(document, w("id"), w("y"), WIDE));
+    OK(pelmora_xml_attribute(document, w("v"), WIDE));
+    CHECK(isWide("1"));
+    OK(pelmora_xml_element(document, w("Event"), WIDE));
+    CHECK(isWide("wheeze"));
+    FAILS(PELMORA_BAD_ARGUMENT, pelmora_xml_parse_file(document, w("")));
+    OK(pelmora_xml_attribute(document, w("v"), WIDE)); /* the document is still there */
+
+    FAILS(PELMORA_MALFORMED, pelmora_xml_parse_text(document, w("<S>")));
+    FAILS(PELMORA_BAD_ARGUMENT, pelmora_xml_attribute(document, w("v"), WIDE));
+    snprintf(narrow, sizeof narrow, "%s/checks.xml", folder);
+    FAILS(PELMORA_SYSTEM, pelmora_xml_parse_file(document, w("not/there.xml")));
+    CHECK(strstr(pelmora_last_error(), "not/there.xml") != NULL);
+    file = fopen(narrow, "wb");
+    CHECK(file != NULL && fputs("<S v='2'/>", file) >= 0 && fclose(file) == 0);
+    OK(pelmora_xml_parse_file(document, w(narrow)));
+    OK(pelmora_xml_attribute(document, w("v"), WIDE));
+    CHECK(isWide("2") && remove(narrow) == 0);
+    pelmora_xml_destroy(document);
+    pelmora_xml_destroy(NULL);
+}
+
+static void download(const char* folder)
+{
+    static char path[1024];
+    const char* const port = getenv("PELMORA_HTTP_PORT");
+    snprintf(path, sizeof path, "%s/checks.download", folder);
+    snprintf(narrow, sizeof narrow, "http://127.0.0.1:%s/text", port == NULL ? "1" : port);
+    OK(pelmora_download(narrow, path, 20000, NULL, NULL));
+    readFile(path);
+    CHECK(isNarrow("text") && remove(path) == 0);
+    FAILS(PELMORA_SYSTEM, pelmora_download("ftp://host/", path, -1, "user", "password"));
+}
+
+void checkServices(const char* catalogueFolder, const char* folder)
+{
+    catalogues(catalogueFolder);
+    logging();
+    language(catalogueFolder);
+    xml(folder);
+    download(folder);
+}
