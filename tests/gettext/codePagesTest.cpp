@@ -79,11 +79,11 @@ TEST(CodePages, BestFitsAreThoseOfWindows)
 TEST(CodePages, UnencodableTextTakesTimeInProportion)
 {
     WideString text;
-    for (unsigned int i = 0; i < 300000; ++i)
+    for (unsigned int i = 0; i < 600000; ++i)
         text += static_cast<WideChar>(0x4E00 + i % 20000);
     const std::clock_t start = std::clock();
     EXPECT_EQ(GString(text).to_narrow(1252), std::string(text.size(), '?'));
-    EXPECT_LT(std::clock() - start, 3 * CLOCKS_PER_SEC); // a hundredth of it, on a calm machine
+    EXPECT_LT(std::clock() - start, 3 * CLOCKS_PER_SEC); // far less, even under valgrind
 }
 
 TEST(CodePages, ConversionsEndAtTheFirstNul)
