@@ -247,7 +247,8 @@ pelmora_status PELMORA_CALL pelmora_unit_debug_text(const pelmora_element* unit,
                                                     char* buffer, size_t capacity, size_t* length);
 
 /* ---- Values: a number in a unit ----------------------------------------------------------------
- * Up to eight elements, nothing here allocates. */
+ * Units of up to eight elements and texts of up to 128 units need no memory, unless the number
+ * format was set. */
 
 /* The product, its unit concatenated and not reduced. An invalid unit (see pelmora_unit_valid)
  * makes its value a neutral operand: the other one comes out untouched, or `a` when that of `b` is
@@ -334,10 +335,11 @@ pelmora_status PELMORA_CALL pelmora_count_significant_digits(const char* text, i
  * for a < 1, at least -12, which negative numbers and NaN give too; 0 for 0. */
 pelmora_status PELMORA_CALL pelmora_decimal_magnitude(double a, int32_t* magnitude);
 
-/* How all numbers of this library are written: the decimal point, and a separator between groups of
- * `group` digits, or 0 for none. "." and no groups at first. Both characters are ASCII. Requires:
- * no other thread makes texts meanwhile. PELMORA_BAD_ARGUMENT for a character that is not ASCII, is
- * a digit or a NUL where it is used, or for equal ones. */
+/* How the functions of this group write numbers: the decimal point, and a separator between groups
+ * of `group` digits, or 0 for none; "." and no groups at first. The C library's locale plays no
+ * part in it and stays as it is. Both characters are ASCII. Requires: no other thread makes texts
+ * meanwhile. PELMORA_BAD_ARGUMENT for a character that is not ASCII, is a digit or a NUL where it
+ * is used, or for equal ones. */
 pelmora_status PELMORA_CALL pelmora_set_number_format(char decimal_point, char separator,
                                                       int32_t group);
 
@@ -347,12 +349,13 @@ pelmora_status PELMORA_CALL pelmora_set_number_format(char decimal_point, char s
  */
 
 /* Narrow text to UTF-16, up to its first NUL. PELMORA_NOT_FOUND for a code page that the system
- * does not know, PELMORA_MALFORMED never. */
+ * does not know. */
 pelmora_status PELMORA_CALL pelmora_text_from_narrow(const char* narrow, size_t narrow_length,
                                                      uint32_t code_page, pelmora_char16* buffer,
                                                      size_t capacity, size_t* length);
 
-/* UTF-16 to narrow text, up to its first NUL, except to 65001, which is pelmora_text_to_utf8. */
+/* UTF-16 to narrow text, up to its first NUL, except to 65001, which is pelmora_text_to_utf8.
+ * PELMORA_NOT_FOUND as above. */
 pelmora_status PELMORA_CALL pelmora_text_to_narrow(const pelmora_char16* text, size_t text_length,
                                                    uint32_t code_page, char* buffer,
                                                    size_t capacity, size_t* length);
@@ -516,8 +519,9 @@ pelmora_status PELMORA_CALL pelmora_split(const char* text, size_t text_length, 
                                           size_t* count);
 
 /* ---- Error log and running system ---------------------------------------------------------------
- * The log is "errors.txt" in the temporary folder, made on first use. Lines of several threads may
- * mix item by item. A log that cannot be opened drops everything and is no failure. */
+ * The log is "errors.txt" in the temporary folder, made on first use, which comes from one thread;
+ * from then on the library stays loaded. Lines of several threads may mix item by item. A log that
+ * cannot be opened drops everything and is no failure. */
 
 /* How the log is made; call it before the first use. `file_name` is in the temporary folder unless
  * its second character is a ':'. `header`, which may be null, stands below the log's own header.

@@ -30,6 +30,34 @@ extern "C" void* malloc(std::size_t size) noexcept
 namespace
 {
 
+/// The first test, because what unwinds threads may be prepared by an exception before.
+TEST(CInterface, LetsACancelledThreadGo)
+{
+    static std::atomic<bool> isWaiting = false;
+    const pelmora_translator wait = [](const char*, pelmora_char16*, std::size_t, void*) {
+        isWaiting = true;
+        pause();
+        return std::size_t(0);
+    };
+    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(wait, nullptr));
+    pthread_t thread = 0;
+    ASSERT_EQ(0, pthread_create(
+                     &thread, nullptr,
+                     [](void*) -> void* {
+                         std::size_t length = 0;
+                         pelmora_translate("Dose", nullptr, 0, &length);
+                         return nullptr;
+                     },
+                     nullptr));
+    while (!isWaiting)
+        std::this_thread::yield();
+    void* result = nullptr;
+    EXPECT_EQ(0, pthread_cancel(thread));
+    EXPECT_EQ(0, pthread_join(thread, &result));
+    EXPECT_EQ(PTHREAD_CANCELED, result);
+    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(nullptr, nullptr));
+}
+
 constexpr pelmora_element mgPerHr[] = {{PELMORA_MILLI, PELMORA_UNIT_G, 1},
                                        {PELMORA_NO_PREFIX, PELMORA_UNIT_HR, -1}};
 constexpr pelmora_element gPerMin[] = {{PELMORA_NO_PREFIX, PELMORA_UNIT_G, 1},
@@ -90,33 +118,6 @@ TEST(CInterface, SaysThatMemoryRanOutWithoutMemory)
             EXPECT_STREQ("", pelmora_last_error());
         }).join();
     }
-}
-
-TEST(CInterface, LetsACancelledThreadGo)
-{
-    static std::atomic<bool> isWaiting = false;
-    const pelmora_translator wait = [](const char*, pelmora_char16*, std::size_t, void*) {
-        isWaiting = true;
-        pause();
-        return std::size_t(0);
-    };
-    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(wait, nullptr));
-    pthread_t thread = 0;
-    ASSERT_EQ(0, pthread_create(
-                     &thread, nullptr,
-                     [](void*) -> void* {
-                         std::size_t length = 0;
-                         pelmora_translate("Dose", nullptr, 0, &length);
-                         return nullptr;
-                     },
-                     nullptr));
-    while (!isWaiting)
-        std::this_thread::yield();
-    void* result = nullptr;
-    EXPECT_EQ(0, pthread_cancel(thread));
-    EXPECT_EQ(0, pthread_join(thread, &result));
-    EXPECT_EQ(PTHREAD_CANCELED, result);
-    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(nullptr, nullptr));
 }
 
 } // namespace
