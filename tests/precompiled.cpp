@@ -1,0 +1,1 @@
+// Has nothing of its own: the header that all test programs share is precompiled for it.
