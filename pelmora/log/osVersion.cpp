@@ -28,28 +28,31 @@ constexpr Range exactly(std::uint32_t value)
 }
 
 struct NameRow {
+    const char* name;
     std::uint32_t platform;
     Range major = any;
     Range minor = any;
-    const char* name;
+    bool appendsNumbers = false;
     const char* revisions = ""; ///< second characters of the service pack that stand for a revision
     const char* revisionName = "";
-    bool appendsNumbers = false;
 };
+
+constexpr bool withNumbers = true;
+constexpr bool alone = false;
 
 /// The first row that fits gives the name.
 constexpr NameRow names[] = {
-    {.platform = 0, .name = "Win32s"},
-    {1, exactly(4), exactly(0), "Windows 95", "CB", " OSR2"},
-    {1, exactly(4), exactly(10), "Windows 98", "A", " SE"},
-    {1, exactly(4), exactly(90), "Windows ME"},
-    {.platform = 1, .name = "Windows 9x ", .appendsNumbers = true},
-    {2, exactly(6), any, "Windows Vista"},
-    {2, exactly(5), exactly(2), "Windows Server 2003"},
-    {2, exactly(5), exactly(1), "Windows XP"},
-    {2, exactly(5), exactly(0), "Windows 2000"},
-    {.platform = 2, .major = {0, 4}, .name = "Windows NT ", .appendsNumbers = true},
-    {.platform = 2, .name = "Windows ", .appendsNumbers = true},
+    {"Win32s", 0},
+    {"Windows 95", 1, exactly(4), exactly(0), alone, "CB", " OSR2"},
+    {"Windows 98", 1, exactly(4), exactly(10), alone, "A", " SE"},
+    {"Windows ME", 1, exactly(4), exactly(90)},
+    {"Windows 9x ", 1, any, any, withNumbers},
+    {"Windows Vista", 2, exactly(6)},
+    {"Windows Server 2003", 2, exactly(5), exactly(2)},
+    {"Windows XP", 2, exactly(5), exactly(1)},
+    {"Windows 2000", 2, exactly(5), exactly(0)},
+    {"Windows NT ", 2, {0, 4}, any, withNumbers},
+    {"Windows ", 2, any, any, withNumbers},
 };
 
 std::string nameOf(const OsVersion& version)
