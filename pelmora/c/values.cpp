@@ -130,7 +130,8 @@ pelmora_status pelmora_value_normalized_text(double a, const pelmora_element* un
                                              size_t* length)
 {
     return giveBuilt(buffer, capacity, length, [&](auto& text) {
-        Native::appendNormalized(text, requiredValue(a, unit, unit_count, "unit"), digits);
+        Native::appendNormalized(
+            text, a, Native::ElementList(requiredElements(unit, unit_count, "unit")), digits);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "pelmora/units/isoFactor.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Pelmora::Native
@@ -49,24 +50,32 @@ void UnitValue::convertTo(const Unit& target)
 
 UnitValue UnitValue::toNormalized(int maxMagnitude) const
 {
-    constexpr int smallestMagnitude = -1;
     UnitValue result = *this;
-    int magnitude = decimalMagnitude(value);
+    normalize(result.value, result.unit.elements, maxMagnitude);
+    return result;
+}
 
+void normalize(double& value, std::span<UnitElement> unit, int maxMagnitude) noexcept
+{
+    constexpr int smallestMagnitude = -1;
+    const auto element =
+        std::find_if(unit.begin(), unit.end(), [](const UnitElement& x) { return x.exponent > 0; });
+    if (element == unit.end())
+        return;
+    int magnitude = decimalMagnitude(value);
     const auto shift = [&](int steps) {
-        const ScaledUnit shifted = result.unit.shiftPrefix(steps);
-        result.unit = shifted.unit;
+        const ScaledElement shifted = element->shiftPrefix(steps);
+        *element = shifted.element;
         if (shifted.factor == 1.0)
             return false;
-        result.value *= shifted.factor;
-        magnitude = decimalMagnitude(result.value);
+        value *= shifted.factor;
+        magnitude = decimalMagnitude(value);
         return true;
     };
     while (magnitude < smallestMagnitude && shift(-1)) {
     }
     while (magnitude > maxMagnitude && shift(+1)) {
     }
-    return result;
 }
 
 int decimalMagnitude(double x) noexcept

@@ -61,4 +61,7 @@ inline double convertedValue(double value, Elements from, Elements to) noexcept
 /// See Unit::compatibleWith.
 bool areCompatible(Elements a, Elements b);
 
+/// See UnitValue::toNormalized; changes value and unit in place.
+void normalize(double& value, std::span<UnitElement> unit, int maxMagnitude) noexcept;
+
 } // namespace Pelmora::Native

@@ -89,6 +89,6 @@ void appendSignificant(NarrowBuilder& text, double value, int digits);
 void appendElement(WideBuilder& text, const UnitElement& element, bool absoluteExponent);
 void appendUnit(WideBuilder& text, Elements unit);
 void appendValue(WideBuilder& text, double value, Elements unit, int precision);
-void appendNormalized(WideBuilder& text, const UnitValue& value, int digits);
+void appendNormalized(WideBuilder& text, double value, ElementList unit, int digits);
 
 } // namespace Pelmora::Native

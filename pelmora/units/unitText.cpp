@@ -128,12 +128,12 @@ void appendValue(WideBuilder& text, double value, Elements unit, int precision)
     appendWithUnit(text, number, unit);
 }
 
-void appendNormalized(WideBuilder& text, const UnitValue& value, int digits)
+void appendNormalized(WideBuilder& text, double value, ElementList unit, int digits)
 {
-    const UnitValue normalized = value.toNormalized(digits);
+    normalize(value, unit, digits);
     NarrowBuilder number;
-    appendSignificant(number, normalized.value, digits);
-    appendWithUnit(text, number, normalized.unit.elements);
+    appendSignificant(number, value, digits);
+    appendWithUnit(text, number, unit);
 }
 
 void appendSignificant(NarrowBuilder& text, double value, int digits)
@@ -184,7 +184,7 @@ GString UnitValue::toString(int precision) const
 GString UnitValue::toNormalizedString(int digits) const
 {
     WideBuilder text;
-    appendNormalized(text, *this, digits);
+    appendNormalized(text, value, unit.elements, digits);
     return text.take();
 }
 
