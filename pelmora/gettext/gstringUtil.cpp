@@ -1,8 +1,8 @@
 #include "pelmora/gettext/gstringUtil.h"
 
 #include "pelmora/base/detail/NeverDestroyed.h"
+#include "pelmora/base/detail/utf8.h"
 #include "pelmora/gettext/printfFormat.h"
-#include "pelmora/gettext/utf8.h"
 #include "pelmora/platform/codePages.h"
 
 #include <algorithm>
@@ -140,8 +140,8 @@ GString::GString(std::string_view narrow, unsigned int codePage)
 
 GString GString::from_utf8(std::string_view utf8)
 {
-    // Too few for a supplementary character, on purpose: a unit is all that a character may need.
-    constexpr int longestSequence = 3;
+    // A longer sequence encodes a character that does not fit one unit; refused on purpose.
+    constexpr std::size_t longestSequence = 3;
     WideString text;
     text.reserve(utf8.size());
     while (!utf8.empty()) {
@@ -150,12 +150,11 @@ GString GString::from_utf8(std::string_view utf8)
         utf8.remove_prefix(ascii);
         if (utf8.empty())
             break;
-        std::uint32_t value = 0;
-        const int length = decodeUtf8(utf8, longestSequence, value);
-        if (length < 1)
+        const auto character = decodeUtf8(utf8, longestSequence);
+        if (!character)
             throw "UTF8 error: source too large"; // NOLINT: callers expect a C string
-        text += static_cast<WideChar>(value);
-        utf8.remove_prefix(static_cast<std::size_t>(length));
+        text += static_cast<WideChar>(character->value);
+        utf8.remove_prefix(character->length);
     }
     return text;
 }
@@ -182,13 +181,8 @@ std::string GString::to_utf8() const
 {
     std::string result;
     result.reserve(text_.size());
-    std::array<char, 4> sequence = {};
-    for (const WideChar unit : text_) {
-        const int length = encodeUtf8(unit, sequence);
-        if (length < 1)
-            throw "UTF8 error: result too large"; // NOLINT: callers expect a C string
-        result.append(sequence.data(), static_cast<std::size_t>(length));
-    }
+    for (const WideChar unit : text_)
+        result += encodeUtf8(unit).view();
     return result;
 }
 

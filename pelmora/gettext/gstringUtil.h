@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pelmora/base/codePageNumbers.h"
 #include "pelmora/base/wideChar.h"
 #include "pelmora/export.h"
 #include "pelmora/gettext/FormatArgument.h"
@@ -17,10 +18,6 @@
 
 namespace Pelmora::Native
 {
-
-/// The Windows code pages that the library names itself; every operation takes any number.
-inline constexpr unsigned int ansiCodePage = 0; ///< the system's ANSI code page; 1252 on Linux
-inline constexpr unsigned int utf8CodePage = 65001;
 
 /// What a text literal of UTF-16 units is made of: u"..." everywhere, L"..." on Windows too.
 template <class T>
@@ -69,8 +66,7 @@ public:
     std::string to_narrow(unsigned int codePage = ansiCodePage) const;
 
     /// UTF-8 of each unit on its own, so that a surrogate pair becomes six bytes, which `from_utf8`
-    /// reads back. The counterpart of its error, the C string "UTF8 error: result too large",
-    /// cannot come up: every 16-bit unit has an encoding.
+    /// reads back. Has no counterpart of that function's error: every unit has an encoding.
     std::string to_utf8() const;
 
     /// NUL-terminated UTF-16, valid while this object lives and is not changed.

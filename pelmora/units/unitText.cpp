@@ -1,6 +1,6 @@
 #include "pelmora/units/unitText.h"
 
-#include "pelmora/gettext/utf8.h"
+#include "pelmora/base/detail/utf8.h"
 #include "pelmora/units/textBuilder.h"
 #include "pelmora/units/unitTables.h"
 

@@ -1,9 +1,8 @@
-#include "pelmora/gettext/utf8.h"
+#include "pelmora/base/detail/utf8.h"
 
 #include "pelmora/gettext/gstringUtil.h"
 #include "tests/printing.h"
 
-#include <array>
 #include <memory>
 #include <tuple>
 
@@ -14,46 +13,41 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(Utf8, DecodesEveryLengthAtItsLimits)
+TEST(Utf8, SequencesOfEveryLengthReachTheirLimits)
 {
-    const std::tuple<std::string, int, int, std::uint32_t> rows[] = {
-        {"\x7F", 1, 1, 0x7F},
-        {"\xC2\x80", 2, 2, 0x80},
-        {"\xDF\xBF", 2, 2, 0x7FF},
-        {"\xE0\xA0\x80", 3, 3, 0x800},
-        {"\xED\xA0\xBD", 3, 3, 0xD83D},
-        {"\xF0\x90\x80\x80", 4, 4, 0x10000},
-        {"\xF7\xBF\xBF\xBF", 4, 4, 0x1FFFFF},
-        {"\xF8\x88\x80\x80\x80", 5, 5, 0x200000},
-        {"\xFC\x84\x80\x80\x80\x80", 6, 6, 0x4000000},
-        {"\xFD\xBF\xBF\xBF\xBF\xBF", 6, 6, 0x7FFFFFFF},
-        {"\xF0\x90\x80\x80", 3, utf8NoRoom, 0},
-        {"\xE0\x9F\xBF", 3, utf8Malformed, 0},
-        {"\xF0\x8F\xBF\xBF", 4, utf8Malformed, 0},
-        {"\xF8\x87\xBF\xBF\xBF", 5, utf8Malformed, 0},
-        {"\xFC\x83\xBF\xBF\xBF\xBF", 6, utf8Malformed, 0},
-        {"\xC1\xBF", 3, utf8Malformed, 0},
-        {"\xFE", 6, utf8Malformed, 0},
-        {"\xE2\x82", 3, utf8Malformed, 0},
-        {"\xE2\xC2\x80", 3, utf8Malformed, 0},
+    const std::tuple<std::string, std::uint32_t> rows[] = {
+        {"\x7F", 0x7F},
+        {"\xC2\x80", 0x80},
+        {"\xDF\xBF", 0x7FF},
+        {"\xE0\xA0\x80", 0x800},
+        {"\xED\xA0\xBD", 0xD83D},
+        {"\xF0\x90\x80\x80", 0x10000},
+        {"\xF7\xBF\xBF\xBF", 0x1FFFFF},
+        {"\xF8\x88\x80\x80\x80", 0x200000},
+        {"\xFC\x84\x80\x80\x80\x80", 0x4000000},
+        {"\xFD\xBF\xBF\xBF\xBF\xBF", 0x7FFFFFFF},
     };
-    for (const auto& [bytes, available, length, expected] : rows) {
-        // An allocation of exactly this size shows a read behind the end to the sanitizer.
+    for (const auto& [bytes, value] : rows) {
+        SCOPED_TRACE(value);
+        const auto character = decodeUtf8(bytes + "x", bytes.size());
+        ASSERT_TRUE(character);
+        EXPECT_EQ(character->value, value);
+        EXPECT_EQ(character->length, bytes.size());
+        EXPECT_EQ(encodeUtf8(value).view(), bytes);
+        EXPECT_FALSE(decodeUtf8(bytes, bytes.size() - 1));
+    }
+}
+
+TEST(Utf8, MalformedSequencesAreNotDecoded)
+{
+    for (const std::string bytes :
+         {"\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xF8\x87\xBF\xBF\xBF", "\xFC\x83\xBF\xBF\xBF\xBF",
+          "\xC1\xBF", "\xFE", "\xE2\x82", "\xE2\xC2\x80"}) {
+        // An allocation of exactly this size shows the sanitizer a read beyond the end.
         const auto exact = std::make_unique<char[]>(bytes.size());
         bytes.copy(exact.get(), bytes.size());
-        const std::string_view text(exact.get(), bytes.size());
-        std::uint32_t value = 0;
-        EXPECT_EQ(decodeUtf8(text, available, value), length) << bytes;
-        EXPECT_EQ(value, expected) << bytes;
-        if (length < 1)
-            continue;
-        std::array<char, 6> room = {};
-        ASSERT_EQ(encodeUtf8(value, room), length);
-        EXPECT_EQ(std::string(room.data(), bytes.size()), bytes);
-        EXPECT_EQ(encodeUtf8(value, std::span(room).first(bytes.size() - 1)), utf8NoRoom);
+        EXPECT_FALSE(decodeUtf8({exact.get(), bytes.size()}, 6)) << bytes;
     }
-    std::array<char, 8> room = {};
-    EXPECT_EQ(encodeUtf8(0x80000000, room), utf8Malformed);
 }
 
 TEST(Utf8, TextsReadBack)

@@ -1,5 +1,6 @@
 #include "pelmora/platform/codePages.h"
 
+#include "pelmora/base/codePageNumbers.h"
 #include "pelmora/platform/posix/bestFit.h"
 
 #include <algorithm>
@@ -22,13 +23,12 @@ namespace
 constexpr unsigned int ansiPage = 1252;
 constexpr unsigned int oemPage = 437;
 constexpr unsigned int gb18030Page = 54936;
-constexpr unsigned int utf8Page = 65001;
 
 /// The page behind the numbers that stand for a default.
 unsigned int actualPage(unsigned int codePage)
 {
     switch (codePage) {
-    case 0: // CP_ACP
+    case ansiCodePage:
     case 3: // CP_THREAD_ACP
         return ansiPage;
     case 1: // CP_OEMCP
@@ -40,7 +40,7 @@ unsigned int actualPage(unsigned int codePage)
 
 std::string iconvName(unsigned int page)
 {
-    if (page == utf8Page)
+    if (page == utf8CodePage)
         return "UTF-8";
     if (page == gb18030Page)
         return "GB18030";
@@ -169,7 +169,7 @@ struct Replacement {
 /// Requires: `text` ends in a NUL and does not begin with it.
 Replacement replacementFor(unsigned int page, const unsigned char* text)
 {
-    if (page == utf8Page)
+    if (page == utf8CodePage)
         return {0xFFFD, malformedUtf8Length(text)};
     if (isLeadByte(page, text[0])) {
         const WideChar unit = page == 932 ? u'\u30FB' : u'?';
@@ -206,8 +206,9 @@ wchar_t takeCharacter(unsigned int page, WideView& text)
 {
     const WideChar unit = text.front();
     text.remove_prefix(1);
-    const bool isPair = (page == gb18030Page || page == utf8Page) && (unit & 0xFC00U) == 0xD800U &&
-                        !text.empty() && (text.front() & 0xFC00U) == 0xDC00U;
+    const bool isPair = (page == gb18030Page || page == utf8CodePage) &&
+                        (unit & 0xFC00U) == 0xD800U && !text.empty() &&
+                        (text.front() & 0xFC00U) == 0xDC00U;
     if (isPair) {
         const WideChar low = text.front();
         text.remove_prefix(1);
