@@ -52,7 +52,7 @@ int main(void)
     pelmora_status status;
     memset(results, 0xAA, sizeof results);
 @calls@
-    printf("%d functions with a null pointer, %d of them wrong\\n", @count@, failures);
+    printf("%d calls with a null pointer, %d of them wrong\\n", @count@, failures);
     return failures == 0 ? 0 : 1;
 }
 """
