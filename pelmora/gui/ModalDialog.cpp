@@ -7,21 +7,26 @@ namespace Pelmora::Native
 
 std::optional<INT_PTR> ModalDialog::run(const DialogTemplate& dialog, HWND parent, HMODULE module)
 {
+    begun_ = false;
+    ended_ = false;
     if (!dialog.valid()) { // the system would read on behind its end
         SetLastError(ERROR_INVALID_DATA);
         return std::nullopt;
     }
     const HINSTANCE instance = module != nullptr ? module : GetModuleHandleA(nullptr);
-    begun_ = false;
+    const HWND owner = GetAncestor(parent, GA_ROOT); // what the system disables
+    const bool ownerIsEnabled = IsWindowEnabled(owner) != 0;
     const auto* bytes =
         reinterpret_cast<const DLGTEMPLATE*>(dialog.bytes().data()); // NOLINT: that is what it is
     const INT_PTR result =
         DialogBoxIndirectParamW(instance, bytes, parent, &ModalDialog::procedure,
                                 reinterpret_cast<LPARAM>(this)); // NOLINT: comes back unchanged
     window_ = nullptr;
+    if (begun_ && !ended_ && ownerIsEnabled)
+        EnableWindow(owner, TRUE); // left to EndDialog by some systems
     if (const auto failure = std::exchange(failure_, nullptr))
         std::rethrow_exception(failure);
-    return begun_ ? std::optional(result) : std::nullopt;
+    return ended_ ? std::optional(result) : std::nullopt;
 }
 
 INT_PTR CALLBACK ModalDialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -66,6 +71,7 @@ INT_PTR ModalDialog::handleMessage(UINT message, WPARAM wParam, LPARAM)
 
 void ModalDialog::end(INT_PTR result)
 {
+    ended_ = true;
     EndDialog(window_, result);
 }
 

@@ -27,10 +27,15 @@ public:
 
     /// Runs the dialog above `parent`, a window of this thread or null, which is disabled
     /// meanwhile, and gives what `end` was called with. None when it cannot be made: the template
-    /// is not valid or the system refuses it or the parent, and GetLastError may say why. `module`
-    /// is where its pictures and menus are, null for the program itself. Requires: it does not run
-    /// already; a window class that the template names has DLGWINDOWEXTRA bytes.
+    /// is not valid or the system refuses it or the parent, and GetLastError may say why. None also
+    /// when it ends without `end`, because the program is to quit: WM_QUIT stays for the caller's
+    /// own loop then. `module` is where its pictures and menus are, null for the program itself.
+    /// Requires: it does not run already; a window class that the template names has
+    /// DLGWINDOWEXTRA bytes.
     std::optional<INT_PTR> run(const DialogTemplate& dialog, HWND parent, HMODULE module = nullptr);
+
+    /// Whether the dialog of the last `run` was made.
+    bool begun() const noexcept { return begun_; }
 
     /// The dialog from WM_INITDIALOG until `run` returns, otherwise null.
     HWND window() const noexcept { return window_; }
@@ -52,6 +57,7 @@ private:
 
     HWND window_ = nullptr;
     bool begun_ = false;
+    bool ended_ = false;
     std::exception_ptr failure_;
 };
 

@@ -57,6 +57,8 @@ INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, HWND parent,
         setDialogTemplateFont(loaded);
         if (const auto result = dialog.run(loaded, parent, module))
             return *result;
+        if (dialog.begun())
+            return IDCANCEL;
     }
     const DWORD error = GetLastError();
     const std::string reason =

@@ -15,8 +15,8 @@ namespace Pelmora::Native
 
 /// Runs a dialog from a template in a module's resources, null for the program's own, with the
 /// font that `setDialogTemplateFont` chooses, and gives its result. IDCANCEL, with one line in the
-/// error log, when there is no such template or no dialog can be made of it. What the dialog throws
-/// is thrown.
+/// error log, when there is no such template or no dialog can be made of it, and without one when
+/// the program is to quit. What the dialog throws is thrown.
 PELMORA_API INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, HWND parent,
                                    HMODULE module = nullptr);
 

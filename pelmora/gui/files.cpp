@@ -2,6 +2,9 @@
 
 #include "pelmora/log/LogStream.h"
 
+#include <optional>
+#include <utility>
+
 #include <windows.h>
 
 namespace Pelmora::Native
@@ -14,6 +17,13 @@ bool endsInSeparator(const std::string& path)
 {
     const char last = *CharPrevA(path.c_str(), path.c_str() + path.size());
     return last == '\\' || last == '/';
+}
+
+/// The path in the ANSI code page, when that has all of it; a best fit would be another path.
+std::optional<std::string> exactly(const GString& path)
+{
+    std::string narrow = path.to_narrow();
+    return GString(narrow) == path ? std::optional(std::move(narrow)) : std::nullopt;
 }
 
 } // namespace
@@ -33,7 +43,8 @@ bool pathExists(const std::string& path)
 
 bool pathExists(const GString& path)
 {
-    return pathExists(path.to_narrow());
+    const auto narrow = exactly(path);
+    return narrow && pathExists(*narrow);
 }
 
 void removeReadOnly(const std::string& path, bool logSuccess)
@@ -51,7 +62,8 @@ void removeReadOnly(const std::string& path, bool logSuccess)
 
 void removeReadOnly(const GString& path, bool logSuccess)
 {
-    removeReadOnly(path.to_narrow(), logSuccess);
+    if (const auto narrow = exactly(path))
+        removeReadOnly(*narrow, logSuccess);
 }
 
 } // namespace Pelmora::Native

@@ -6,7 +6,8 @@
 #include <string>
 
 // Files by their names in the ANSI code page, at most 259 bytes as the system's narrow functions
-// take them. May run in several threads at once, as far as the log allows.
+// take them. What a wide name has and the code page lacks is on no disk for them. May run in
+// several threads at once, as far as the log allows.
 
 namespace Pelmora::Native
 {

@@ -57,6 +57,8 @@ std::vector<SampleDialog> samples()
                         all.push_back({isExtended, name, u"#", caption, items != 1,
                                        hasFace ? u'\b' : u'\x7FFF', hasFace ? u"Tahoma" : u"",
                                        items, u"\u01F4\u00EE"});
+    for (std::size_t i = 0; i < all.size(); i += 2)
+        all[i].creationBytes = 6;
     return all;
 }
 

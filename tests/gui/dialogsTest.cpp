@@ -64,6 +64,7 @@ TEST_F(DialogsTest, TheFocusMovesOnFromWhatCannotKeepIt)
     EXPECT_TRUE(disableControl(button(0))); // it was disabled already
     EXPECT_TRUE(showControl(button(1), false));
     EXPECT_EQ(GetFocus(), button(2));
+    EXPECT_EQ(GetWindowLongA(button(2), GWL_STYLE) & BS_TYPEMASK, BS_DEFPUSHBUTTON);
     EXPECT_TRUE(enableControl(button(0), true));
     EXPECT_FALSE(enableControl(button(2), false)); // from the last to the first
     EXPECT_EQ(GetFocus(), button(0));
@@ -130,6 +131,30 @@ TEST(Dialogs, RunUntilTheyEnd)
         EXPECT_THROW(dialog.run(plain, nullptr), std::runtime_error) << when;
     }
     EXPECT_EQ(dialog.window(), nullptr);
+}
+
+TEST_F(DialogsTest, QuittingGivesNoResultAndIsLeftToTheHost)
+{
+    const ResourceModule module(RT_DIALOG, {{1, built({})}});
+    TestDialog modal;
+    modal.handler = [](UINT message) {
+        if (message == WM_INITDIALOG)
+            PostQuitMessage(7);
+    };
+    const std::function<bool()> rows[] = {
+        [&] { return modal.run(DialogTemplate(built({})), button(0)) == std::nullopt; },
+        [&] { return runModalDialog(modal, 1, dialog, module.get()) == IDCANCEL; },
+    };
+    for (const auto& givesNone : rows) {
+        const LogCapture log;
+        EXPECT_TRUE(givesNone());
+        EXPECT_TRUE(IsWindowEnabled(dialog));
+        MSG quit = {};
+        while (GetMessageW(&quit, nullptr, 0, 0) > 0)
+            DispatchMessageW(&quit);
+        EXPECT_EQ(quit.wParam, 7U);
+        EXPECT_EQ(log.text(), "");
+    }
 }
 
 TEST(Dialogs, RunFromResources)

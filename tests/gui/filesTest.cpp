@@ -1,4 +1,5 @@
 #include "pelmora/gui/files.h"
+#include "pelmora/gui/dateTime.h"
 
 #include "tests/LogCapture.h"
 #include "tests/TemporaryFolder.h"
@@ -23,7 +24,24 @@ TEST(Files, PathExists)
         EXPECT_TRUE(pathExists(folder.name(name))) << name;
     for (const std::string name : {"cafe.txt", "sub//", "*.doc", "sub/none"})
         EXPECT_FALSE(pathExists(GString(folder.name(name)))) << name;
+    for (const auto& [lacking, named] :
+         {std::pair(u"/\u3042\u3042\u3042.txt", "/abc.txt"), {u"/\uFF43\u00E9", "/c\xE9"}}) {
+        const std::string other = folder.name(named);
+        TemporaryFolder::write(other, "x");
+        SetFileAttributesA(other.c_str(), FILE_ATTRIBUTE_READONLY);
+        const GString path = GString(folder.name("")) + lacking;
+        EXPECT_FALSE(pathExists(path));
+        removeReadOnly(path, true);
+        EXPECT_NE(GetFileAttributesA(other.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
+        SetFileAttributesA(other.c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
     EXPECT_FALSE(pathExists(""));
+}
+
+TEST(DateTime, TheLongFormsSayMore)
+{
+    EXPECT_LT(currentDateText(false).size(), currentDateText(true).size());
+    EXPECT_LT(currentTimeText(false).size(), currentTimeText(true).size());
 }
 
 TEST(Files, RemoveReadOnly)

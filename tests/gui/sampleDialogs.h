@@ -22,6 +22,7 @@ struct SampleDialog {
     char16_t items = 2;
     std::u16string weightAndCharset = {400, 1}; ///< of an extended one
     std::u16string positionAndSize = {10, 20, 150, 80};
+    char16_t creationBytes = 3; ///< of every other item
 
     bool hasFace() const { return hasFont && pointSize != 0x7FFF; }
 };
@@ -47,10 +48,10 @@ inline Bytes built(const SampleDialog& sample)
         words += isExtended ? Words{i, 0, 0, 0, 0, 0x5001} : Words{0, 0x5001, 0, 0};
         words += {5, static_cast<char16_t>(5 + 20 * i), 40, 14, static_cast<char16_t>(100 + i)};
         words += (isExtended ? Words(1, 0) : Words()) + text(u"#");
-        // Every other one has creation data of three bytes; its size counts itself in the classic
-        // layout only.
-        words +=
-            i % 2 == 0 ? Words(u"Dose\0", 6) : Words{0, isExtended ? u'\3' : u'\5', 0x0201, 0x0003};
+        // The size of creation data counts itself in the classic layout only.
+        const auto size = static_cast<char16_t>(sample.creationBytes + (isExtended ? 0 : 2));
+        const Words data = Words{0x0201, 0x0403, 0x0605}.substr(0, (sample.creationBytes + 1) / 2);
+        words += i % 2 == 0 ? Words(u"Dose\0", 6) : Words{0, size} + data;
     }
     const auto bytes = std::as_bytes(std::span(words));
     return {bytes.begin(), bytes.end()};

@@ -106,6 +106,7 @@ TEST_F(RegistryKeyTest, FailuresGiveTheDefaultAndSayWhy)
 {
     const std::string notFound = systemErrorText(ERROR_FILE_NOT_FOUND);
     EXPECT_EQ(systemErrorText(0xFFFFFFFE), "Unknown error: -2");
+    EXPECT_NE(systemErrorText(ERROR_BAD_EXE_FORMAT).find("%1"), std::string::npos);
     EXPECT_EQ(key.readString(u"absent", u"default"), u"default");
     EXPECT_EQ(key.lastError(), notFound);
     EXPECT_TRUE(key.writeString("text", "7"));

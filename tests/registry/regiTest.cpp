@@ -16,14 +16,19 @@ namespace
 
 TEST(Regi, WritesReadsAndDeletesBelowEitherRoot)
 {
+    const TestKeys keys;
+    const GString path(keys.path + "\\a");
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
-        const TestKeys keys;
-        const GString path(keys.path + "\\a");
         EXPECT_TRUE(regiWrite(root, path, u"\u00E9", u"10 \u00B5g", true));
         EXPECT_EQ(regiRead(root, path, u"\u00E9", u"default", true), u"10 \u00B5g");
         EXPECT_TRUE(RegistryKey().openMachineOrUser(path, OpenMode::Read));
         EXPECT_TRUE(regiDelete(root, path, u"\u00E9", true) && regiDeleteKey(root, path, true));
     }
+    RegistryKey key;
+    regiWrite(HKEY_CURRENT_USER, keys.path, "of", "user");
+    regiWrite(HKEY_LOCAL_MACHINE, keys.path, "of", "machine");
+    EXPECT_TRUE(key.openMachineOrUser(keys.path, OpenMode::Read));
+    EXPECT_EQ(key.readString("of", ""), "machine");
 }
 
 TEST(Regi, FailuresAreOneLineEachWhenAskedFor)

@@ -44,12 +44,13 @@ LSTATUS WINAPI closeKey(HKEY)
     return ERROR_SUCCESS;
 }
 
-/// A value that grows, or becomes another, when it is read.
+/// A value that grows, shrinks or becomes another, when it is read.
 LSTATUS WINAPI queryValue(HKEY, const char* name, DWORD*, DWORD* type, BYTE* data, DWORD* size)
 {
     const bool grows = *name == 'g';
-    *type = data == nullptr || grows ? REG_SZ : REG_DWORD;
-    *size = 4;
+    const bool shrinks = *name == 's';
+    *type = data == nullptr || grows || shrinks ? REG_SZ : REG_DWORD;
+    *size = data != nullptr && shrinks ? 2 : 4;
     return data != nullptr && grows ? ERROR_MORE_DATA : ERROR_SUCCESS;
 }
 
@@ -97,6 +98,7 @@ TEST(RegistryFailures, AHandleIsClosedOnceAndAChangingValueIsNotRead)
         RegistryKey second(std::move(first));
         EXPECT_EQ(second.readString("grows", "default"), "default");
         EXPECT_EQ(second.lastError(), systemErrorText(ERROR_MORE_DATA));
+        EXPECT_EQ(second.readString("shrinks", "default").size(), 1U);
         EXPECT_EQ(second.readString("changes", "default"), "default");
         EXPECT_EQ(second.lastError(), "The value: 'changes' has type: << 4, type expected:1");
         first.open(HKEY_CURRENT_USER, "path", OpenMode::Read); // NOLINT: as a new one
