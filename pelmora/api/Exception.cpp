@@ -1,12 +1,13 @@
 #include "pelmora/api/Exception.h"
 
+#include "pelmora/api/utf8Message.h"
 #include "pelmora/platform/stackTrace.h"
 
 namespace Pelmora
 {
 
 Exception::Exception(const GString& message, const GString& source, const char* targetSite)
-    : std::runtime_error(message.to_utf8()),
+    : std::runtime_error(utf8Message(message)),
       message_(message),
       source_(source),
       targetSite_(std::string_view(targetSite)),

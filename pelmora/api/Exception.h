@@ -17,7 +17,8 @@ class PELMORA_API Exception : public std::runtime_error
 {
 public:
     /// `source` names the application or object that raises it. The function that makes the
-    /// exception is its target site, and the calls that led there are its stack.
+    /// exception is its target site, and the calls that led there are its stack. `what` gives the
+    /// message in UTF-8.
     explicit Exception(const GString& message, const GString& source = {},
                        const Native::SourceLocation& site = Native::SourceLocation::current())
         : Exception(message, source, site.function_name())

@@ -1,8 +1,8 @@
 #include "pelmora/api/ExceptionData.h"
 
+#include "pelmora/api/utf8Message.h"
 #include "pelmora/platform/localTime.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace Pelmora
@@ -21,10 +21,8 @@ ExceptionData::DateTime now()
 
 GString messageOf(const std::exception& exception)
 {
-    constexpr char16_t replacement = 0xFFFD;
-    const GString text(std::string_view(exception.what()), Native::utf8CodePage);
-    const bool isUtf8 = std::find(text.begin(), text.end(), replacement) == text.end();
-    return isUtf8 ? text : GString(std::string_view(exception.what()));
+    const std::string_view what = exception.what();
+    return GString(what, isWellFormedUtf8(what) ? Native::utf8CodePage : Native::ansiCodePage);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "pelmora/api/ManagedXMLParser.h"
 
 #include "pelmora/api/NullReferenceError.h"
+#include "pelmora/api/utf8Message.h"
 #include "pelmora/base/detail/NeverDestroyed.h"
 #include "pelmora/platform/wholeFile.h"
 #include "pelmora/platform/xmlDocument.h"
@@ -22,7 +23,7 @@ GString fromAnsi(const char* text, const char* name)
 NoDocumentError::~NoDocumentError() = default;
 
 FileError::FileError(const GString& fileName, const std::string& reason)
-    : std::runtime_error("'" + fileName.to_utf8() + "' cannot be read: " + reason +
+    : std::runtime_error("'" + Pelmora::utf8Message(fileName) + "' cannot be read: " + reason +
                          "; give the name of an XML file that exists and may be read")
 {
 }

@@ -33,6 +33,7 @@ public:
 class PELMORA_API FileError : public std::runtime_error
 {
 public:
+    /// `reason` is UTF-8.
     FileError(const GString& fileName, const std::string& reason);
     ~FileError() override;
 
@@ -48,9 +49,10 @@ public:
 /// std::system_error where the system has no XML parser, std::bad_alloc.
 ///
 /// A document may have a document type declaration, but neither an external entity nor a network
-/// address is ever opened for it. Entities that grow out of proportion and elements nested more
-/// than 256 deep count as malformed, so that a hostile document cannot exhaust the process; so do,
-/// on Linux, elements of more than 4096 attributes and 10 MB of defaulted ones.
+/// address is ever opened for it. Entities of either kind and defaults of attributes that make a
+/// document grow to more than 10 MB and 10 times its size count as malformed, and so do elements
+/// nested more than 256 deep, so that a hostile document cannot exhaust the process; on Linux also
+/// elements of more than 4096 attributes and 10 MB of defaulted ones.
 ///
 /// Every operation takes narrow text of the ANSI code page as well. One thread at a time may use an
 /// object; on Windows, COM need not be initialised, and the thread's apartment is left as it is.

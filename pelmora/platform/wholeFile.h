@@ -8,8 +8,9 @@
 
 // What the host must provide to read, delete and write files whole.
 //
-// Each function gives the system's error, whose message says the reason, or none. File names are
-// UTF-16; a system whose names are bytes gets them in UTF-8. Safe to call from several threads.
+// Each function gives the system's error, whose message says the reason in UTF-8, or none. File
+// names are UTF-16; a system whose names are bytes gets them in UTF-8. Safe to call from several
+// threads.
 
 namespace Pelmora::Native::Platform
 {

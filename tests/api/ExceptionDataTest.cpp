@@ -19,7 +19,7 @@ using Type = ExceptionData::type_enum;
 
 void raise()
 {
-    throw Exception(u"no \u00E9lan", u"ward");
+    throw Exception(u"no \u00E9lan \U0001F600\xD83D", u"ward");
 }
 
 TEST(ExceptionData, WhatEachConstructorSets)
@@ -42,7 +42,12 @@ TEST(ExceptionData, WhatEachConstructorSets)
          all, Prio::PRIO_NOTE, Type::TYPE_DEBUGMESSAGE},
         {ExceptionData(std::runtime_error("caf\xC3\xA9 \xF0\x9F\x98\x80")),
          u"caf\u00E9 \xD83D\xDE00|||||", Prio::PRIO_FATAL, Type::TYPE_EXCEPTION},
+        {ExceptionData(std::runtime_error("\xC3\xA9\xEF\xBF\xBD")), u"\u00E9\uFFFD|||||",
+         Prio::PRIO_FATAL, Type::TYPE_EXCEPTION},
         {ExceptionData(std::runtime_error("caf\xE9")), u"caf\u00E9|||||", Prio::PRIO_FATAL,
+         Type::TYPE_EXCEPTION},
+        {ExceptionData(std::runtime_error("\xED\xB0\xBD \xF4\xB0\xB0\xB0")),
+         u"\u00ED\u00B0\u00BD \u00F4\u00B0\u00B0\u00B0|||||", Prio::PRIO_FATAL,
          Type::TYPE_EXCEPTION},
     };
     for (const auto& [data, fields, priority, type] : rows) {
@@ -63,11 +68,11 @@ TEST(ExceptionData, ReportsWhereAnExceptionCameFrom)
         ADD_FAILURE();
     } catch (const std::exception& error) {
         const ExceptionData data(error);
-        EXPECT_EQ(data.mMessage, u"no \u00E9lan");
+        EXPECT_EQ(data.mMessage, u"no \u00E9lan \U0001F600\xD83D");
         EXPECT_EQ(data.mSource, u"ward");
         EXPECT_NE(data.mTargetSite.to_utf8().find("raise"), std::string::npos);
         EXPECT_FALSE(data.mStackTrace.empty());
-        EXPECT_STREQ(error.what(), "no \xC3\xA9lan");
+        EXPECT_STREQ(error.what(), "no \xC3\xA9lan \xF0\x9F\x98\x80\xEF\xBF\xBD");
     }
 }
 

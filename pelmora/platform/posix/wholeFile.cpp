@@ -1,6 +1,7 @@
 #include "pelmora/platform/wholeFile.h"
 
 #include "pelmora/platform/posix/utf16.h"
+#include "pelmora/platform/systemError.h"
 
 #include <array>
 #include <cerrno>
@@ -21,7 +22,7 @@ using File = std::unique_ptr<std::FILE, Closer>;
 
 std::error_code lastError()
 {
-    return {errno, std::system_category()};
+    return {errno, systemErrors()};
 }
 
 } // namespace

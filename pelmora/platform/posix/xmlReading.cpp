@@ -1,5 +1,6 @@
 #include "pelmora/platform/posix/xmlReading.h"
 
+#include <algorithm>
 #include <limits>
 #include <new>
 
@@ -14,8 +15,10 @@ namespace
 
 constexpr int maxDepth = 256; // as in MSXML 6
 
-// libxml2 limits what general entities grow to, but not how often parameter entities are expanded.
+// libxml2 limits what general entities grow to, but not parameter entities.
 constexpr int maxParameterReferences = 10000;
+constexpr std::size_t toleratedGrowth = 10'000'000; // however small the document is
+constexpr std::size_t maxGrowthFactor = 10;
 
 // Nor does it limit attributes, whose number costs it time by its square, and whose defaults a
 // document type can repeat in every element.
@@ -58,6 +61,7 @@ private:
     const char* encoding_;
     bool metDocumentType_ = false;
     bool stopped_ = false;
+    std::size_t parameterBudget_ = 0;
     int parameterReferences_ = 0;
     std::size_t defaultedBytes_ = 0;
     xmlChar nothing_[1] = {0};
@@ -81,6 +85,8 @@ Reading::Reading(Mode mode, const char* encoding)
     context_->sax->entityDecl = declareEntity;
     context_->sax->getEntity = entityOf;
     context_->sax->getParameterEntity = parameterEntityOf;
+    // Otherwise declarations that are made twice are reported on standard error.
+    context_->sax->serror = [](void*, xmlError*) {};
     // Asked for the external part of a document type, too.
     context_->sax->resolveEntity = [](void*, const xmlChar*, const xmlChar*) {
         return static_cast<xmlParserInput*>(nullptr);
@@ -140,6 +146,12 @@ void Reading::declareEntity(void* context, const xmlChar* name, int type, const 
 
 xmlEntity* Reading::entityOf(void* context, const xmlChar* name)
 {
+    // Text under another name is not joined with what follows; joining takes time by the square of
+    // how many references there are.
+    static const xmlChar notJoined[] = "text";
+    const xmlNode* const parent = static_cast<xmlParserCtxt*>(context)->node;
+    if (parent != nullptr && parent->last != nullptr && parent->last->type == XML_TEXT_NODE)
+        parent->last->name = notJoined;
     xmlEntity* entity = xmlSAX2GetEntity(context, name);
     const bool isExternal =
         entity != nullptr && entity->etype == XML_EXTERNAL_GENERAL_PARSED_ENTITY;
@@ -154,14 +166,20 @@ xmlEntity* Reading::entityOf(void* context, const xmlChar* name)
 xmlEntity* Reading::parameterEntityOf(void* context, const xmlChar* name)
 {
     Reading& reading = of(context);
-    if (++reading.parameterReferences_ <= maxParameterReferences)
-        return xmlSAX2GetParameterEntity(context, name);
-    reading.stop();
-    return nullptr;
+    xmlEntity* entity = xmlSAX2GetParameterEntity(context, name);
+    const std::size_t size = entity == nullptr ? 0 : static_cast<std::size_t>(entity->length);
+    if (++reading.parameterReferences_ > maxParameterReferences ||
+        size > reading.parameterBudget_) {
+        reading.stop();
+        return nullptr;
+    }
+    reading.parameterBudget_ -= size;
+    return entity;
 }
 
 Tree Reading::tree(std::string_view bytes)
 {
+    parameterBudget_ = std::max(toleratedGrowth, maxGrowthFactor * bytes.size());
     int options = XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_NOERROR |
                   XML_PARSE_NOWARNING;
     if (encoding_ != nullptr)

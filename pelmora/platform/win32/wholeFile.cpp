@@ -1,5 +1,7 @@
 #include "pelmora/platform/wholeFile.h"
 
+#include "pelmora/platform/systemError.h"
+
 #include <algorithm>
 #include <array>
 
@@ -35,7 +37,7 @@ private:
 
 std::error_code lastError()
 {
-    return {static_cast<int>(GetLastError()), std::system_category()};
+    return {static_cast<int>(GetLastError()), systemErrors()};
 }
 
 std::error_code writeAll(HANDLE file, std::string_view bytes)
