@@ -119,13 +119,13 @@ std::pair<std::string, int> DialogTemplate::getFont() const
     return {readText(buffer_, face, parts->faceLength).to_narrow(), pointSize};
 }
 
-bool DialogTemplate::setFont(const std::string& face, std::int16_t pointSize)
+bool DialogTemplate::setFont(const AnsiText& face, std::int16_t pointSize)
 {
     constexpr std::size_t faceRoom = 32; // with the NUL
     const auto parts = partsOf(buffer_, size_);
     if (!parts || pointSize == messageFontSize)
         return false;
-    const GString text(face);
+    const GString text(face.narrow());
     const bool fits = text.size() < faceRoom;
     const std::size_t fixed = parts->layout->fontFixedSize;
     const std::size_t newSize = fixed + (fits ? 2 * (text.size() + 1) : 0);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pelmora/export.h"
-#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/gettext/AnsiText.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -87,11 +87,7 @@ public:
     /// False without a template and for a size of 0x7FFF. A face of 32 or more UTF-16 units does
     /// not fit: the template is left with a size and without a face, on purpose, and is of no use
     /// until it is loaded again.
-    bool setFont(const std::string& face, std::int16_t pointSize);
-    bool setFont(const GString& face, std::int16_t pointSize)
-    {
-        return setFont(face.to_narrow(), pointSize);
-    }
+    bool setFont(const AnsiText& face, std::int16_t pointSize);
 
     /// False without a template or a face, and for a size of 0x7FFF.
     bool setFontSize(std::int16_t pointSize);

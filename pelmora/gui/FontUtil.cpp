@@ -65,32 +65,22 @@ int CALLBACK noteFound(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM found)
 
 } // namespace
 
-bool create(Font& font, const std::string& face, int height, bool bold, bool italic)
+bool create(Font& font, const AnsiText& face, int height, bool bold, bool italic)
 {
     HFONT handle = createHandle(face, height, bold, italic);
     if (handle == nullptr) {
-        get_log() << "FontUtil::create( .., " << face << ", " << height << ", " << bold << ", "
-                  << italic << ") : can't create font." << endl;
+        get_log() << "FontUtil::create( .., " << face.narrow() << ", " << height << ", " << bold
+                  << ", " << italic << ") : can't create font." << endl;
         handle = static_cast<HFONT>(GetStockObject(SYSTEM_FONT));
     }
     return font.attach(handle);
 }
 
-bool create(Font& font, const GString& face, int height, bool bold, bool italic)
-{
-    return create(font, face.to_narrow(), height, bold, italic);
-}
-
-HFONT createHandle(const std::string& face, int height, bool bold, bool italic)
+HFONT createHandle(const AnsiText& face, int height, bool bold, bool italic)
 {
     return CreateFontA(height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, italic ? TRUE : FALSE, FALSE,
                        FALSE, systemCharset(), OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
                        DEFAULT_QUALITY, DWORD(FF_SWISS) | DWORD(DEFAULT_PITCH), face.c_str());
-}
-
-HFONT createHandle(const GString& face, int height, bool bold, bool italic)
-{
-    return createHandle(face.to_narrow(), height, bold, italic);
 }
 
 BYTE systemCharset()
@@ -114,11 +104,11 @@ bool hasSmallFonts()
     return answer;
 }
 
-bool exists(const std::string& face, BYTE charset, HDC dc)
+bool exists(const AnsiText& face, BYTE charset, HDC dc)
 {
     LOGFONTA wanted = {};
-    const std::size_t length = std::min(face.size(), std::size(wanted.lfFaceName) - 1);
-    std::copy_n(face.begin(), length, wanted.lfFaceName);
+    const std::size_t length = std::min(face.narrow().size(), std::size(wanted.lfFaceName) - 1);
+    std::copy_n(face.c_str(), length, wanted.lfFaceName);
     wanted.lfCharSet = charset;
     return withDc<MemoryDc>(dc, [&wanted](HDC used) {
         bool found = false;
@@ -127,19 +117,9 @@ bool exists(const std::string& face, BYTE charset, HDC dc)
     });
 }
 
-bool exists(const GString& face, BYTE charset, HDC dc)
-{
-    return exists(face.to_narrow(), charset, dc);
-}
-
-bool existsAnyCharset(const std::string& face, HDC dc)
+bool existsAnyCharset(const AnsiText& face, HDC dc)
 {
     return exists(face, DEFAULT_CHARSET, dc);
-}
-
-bool existsAnyCharset(const GString& face, HDC dc)
-{
-    return existsAnyCharset(face.to_narrow(), dc);
 }
 
 int textHeight(HFONT font, HDC dc)

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "pelmora/export.h"
-#include "pelmora/gettext/gstringUtil.h"
-
-#include <string>
+#include "pelmora/gettext/AnsiText.h"
 
 #include <windows.h>
 
@@ -51,12 +49,10 @@ namespace FontUtil
 
 /// A font for `font`. One that cannot be created is one line in the error log, and the system's own
 /// font takes its place, so that `font` can be used in any case; whether it holds one.
-PELMORA_API bool create(Font& font, const std::string& face, int height, bool bold, bool italic);
-PELMORA_API bool create(Font& font, const GString& face, int height, bool bold, bool italic);
+PELMORA_API bool create(Font& font, const AnsiText& face, int height, bool bold, bool italic);
 
 /// The font alone, the caller's to delete; null when it cannot be created.
-PELMORA_API HFONT createHandle(const std::string& face, int height, bool bold, bool italic);
-PELMORA_API HFONT createHandle(const GString& face, int height, bool bold, bool italic);
+PELMORA_API HFONT createHandle(const AnsiText& face, int height, bool bold, bool italic);
 
 /// The system character set: that of the ANSI code page, 0 (ANSI_CHARSET) for the Western European
 /// one and where the code page has none.
@@ -70,10 +66,8 @@ PELMORA_API bool isNonAnsiSystem();
 PELMORA_API bool hasSmallFonts();
 
 /// Whether a font of that face is installed, in one character set or in any.
-PELMORA_API bool exists(const std::string& face, BYTE charset, HDC dc = nullptr);
-PELMORA_API bool exists(const GString& face, BYTE charset, HDC dc = nullptr);
-PELMORA_API bool existsAnyCharset(const std::string& face, HDC dc = nullptr);
-PELMORA_API bool existsAnyCharset(const GString& face, HDC dc = nullptr);
+PELMORA_API bool exists(const AnsiText& face, BYTE charset, HDC dc = nullptr);
+PELMORA_API bool existsAnyCharset(const AnsiText& face, HDC dc = nullptr);
 
 /// The font's measures in logical units; of the line, ascent and descent together, or all of them.
 /// Those of the device context's own font for null, and 0, or zeros, when the system fails.

@@ -2,8 +2,8 @@
 
 #include "pelmora/log/LogStream.h"
 
-#include <optional>
-#include <utility>
+#include <memory>
+#include <string>
 
 #include <windows.h>
 
@@ -19,51 +19,38 @@ bool endsInSeparator(const std::string& path)
     return last == '\\' || last == '/';
 }
 
-/// The path in the ANSI code page, when that has all of it; a best fit would be another path.
-std::optional<std::string> exactly(const GString& path)
-{
-    std::string narrow = path.to_narrow();
-    return GString(narrow) == path ? std::optional(std::move(narrow)) : std::nullopt;
-}
+struct SearchClose {
+    void operator()(HANDLE search) const { FindClose(search); }
+};
 
 } // namespace
 
-bool pathExists(const std::string& path)
+bool pathExists(const AnsiText& path)
 {
-    if (path.empty())
+    const std::string& text = path.narrow();
+    if (text.empty() || !path.isExact())
         return false;
-    const std::string name = path.substr(0, path.size() - (endsInSeparator(path) ? 1 : 0));
+    const std::string name = text.substr(0, text.size() - (endsInSeparator(text) ? 1 : 0));
     WIN32_FIND_DATAA found = {};
     const HANDLE search = FindFirstFileA(name.c_str(), &found);
     if (search == INVALID_HANDLE_VALUE)
         return false;
-    FindClose(search);
+    const std::unique_ptr<void, SearchClose> closing(search);
     return true;
 }
 
-bool pathExists(const GString& path)
+void removeReadOnly(const AnsiText& path, bool logSuccess)
 {
-    const auto narrow = exactly(path);
-    return narrow && pathExists(*narrow);
-}
-
-void removeReadOnly(const std::string& path, bool logSuccess)
-{
-    const DWORD attributes = GetFileAttributesA(path.c_str());
+    const DWORD attributes =
+        path.isExact() ? GetFileAttributesA(path.c_str()) : INVALID_FILE_ATTRIBUTES;
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) == 0)
         return;
     const DWORD writable = attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY);
     const bool removed = SetFileAttributesA(path.c_str(), writable) != 0;
-    // Success without the flag is reported as failure: kept, readers of logs know it.
+    // Success without the flag is reported as failure, on purpose.
     get_log() << (removed && logSuccess ? "Removed read-only attribute on "
                                         : "Could not remove read-only attribute on ")
-              << path << endl;
-}
-
-void removeReadOnly(const GString& path, bool logSuccess)
-{
-    if (const auto narrow = exactly(path))
-        removeReadOnly(*narrow, logSuccess);
+              << path.narrow() << endl;
 }
 
 } // namespace Pelmora::Native

@@ -80,7 +80,7 @@ RegistryKey& RegistryKey::operator=(RegistryKey&& other) // NOLINT: see the head
 
 RegistryKey::~RegistryKey() = default;
 
-bool RegistryKey::open(HKEY root, const std::string& path, OpenMode mode)
+bool RegistryKey::open(HKEY root, const AnsiText& path, OpenMode mode)
 {
     record_->handle.reset();
     if (!has(mode, OpenMode::WriteOrRead))
@@ -91,7 +91,7 @@ bool RegistryKey::open(HKEY root, const std::string& path, OpenMode mode)
            attempt(root, path, OpenMode::Read | create);
 }
 
-bool RegistryKey::attempt(HKEY root, const std::string& path, OpenMode mode)
+bool RegistryKey::attempt(HKEY root, const AnsiText& path, OpenMode mode)
 {
     HKEY opened = nullptr;
     std::array<char, 1> noClass = {};
@@ -106,7 +106,7 @@ bool RegistryKey::attempt(HKEY root, const std::string& path, OpenMode mode)
     return true;
 }
 
-bool RegistryKey::openMachineOrUser(const std::string& path, OpenMode mode)
+bool RegistryKey::openMachineOrUser(const AnsiText& path, OpenMode mode)
 {
     return open(HKEY_LOCAL_MACHINE, path, mode) || open(HKEY_CURRENT_USER, path, mode);
 }
@@ -161,26 +161,25 @@ std::string RegistryKey::readString(const std::string& name, const std::string& 
     return std::string(value.text().substr(0, value.size == 0 ? 0 : value.size - 1));
 }
 
-std::uint32_t RegistryKey::readDword(const std::string& name, std::uint32_t fallback) const
+std::uint32_t RegistryKey::readDword(const AnsiText& name, std::uint32_t fallback) const
 {
-    const Bytes value = queryRaw(name, REG_DWORD);
+    const Bytes value = queryRaw(name.narrow(), REG_DWORD);
     std::uint32_t number = fallback;
     if (value.size == sizeof number)
         std::memcpy(&number, value.data.get(), sizeof number);
     return number;
 }
 
-std::unique_ptr<std::byte[]> RegistryKey::readBinary(const std::string& name,
-                                                     std::size_t& size) const
+std::unique_ptr<std::byte[]> RegistryKey::readBinary(const AnsiText& name, std::size_t& size) const
 {
-    Bytes value = queryRaw(name, REG_BINARY);
+    Bytes value = queryRaw(name.narrow(), REG_BINARY);
     size = value.size;
     return std::move(value.data);
 }
 
-GString RegistryKey::readWideString(const std::string& name, const GString& fallback) const
+GString RegistryKey::readWideString(const AnsiText& name, const GString& fallback) const
 {
-    const Bytes value = queryRaw(name, REG_BINARY);
+    const Bytes value = queryRaw(name.narrow(), REG_BINARY);
     if (value.data == nullptr)
         return fallback;
     WideString text(value.size / sizeof(WideChar), 0);
@@ -207,7 +206,7 @@ std::vector<GString> RegistryKey::readMultiString(const GString& name) const
     return {strings.begin(), strings.end()};
 }
 
-bool RegistryKey::write(const std::string& name, unsigned long type, const void* data,
+bool RegistryKey::write(const AnsiText& name, unsigned long type, const void* data,
                         std::size_t size)
 {
     if (record_->handle == nullptr) {
@@ -220,27 +219,27 @@ bool RegistryKey::write(const std::string& name, unsigned long type, const void*
                                     static_cast<DWORD>(size)));
 }
 
-bool RegistryKey::writeString(const std::string& name, const std::string& value)
+bool RegistryKey::writeString(const AnsiText& name, const AnsiText& value)
 {
-    return write(name, REG_SZ, value.c_str(), value.size() + 1);
+    return write(name, REG_SZ, value.c_str(), value.narrow().size() + 1);
 }
 
-bool RegistryKey::writeDword(const std::string& name, std::uint32_t value)
+bool RegistryKey::writeDword(const AnsiText& name, std::uint32_t value)
 {
     return write(name, REG_DWORD, &value, sizeof value);
 }
 
-bool RegistryKey::writeBinary(const std::string& name, const void* bytes, std::size_t size)
+bool RegistryKey::writeBinary(const AnsiText& name, const void* bytes, std::size_t size)
 {
     return write(name, REG_BINARY, bytes, size);
 }
 
-bool RegistryKey::writeWideString(const std::string& name, const GString& value)
+bool RegistryKey::writeWideString(const AnsiText& name, const GString& value)
 {
     return write(name, REG_BINARY, value.to_w_str(), value.size() * sizeof(WideChar));
 }
 
-bool RegistryKey::writeMultiString(const std::string& name, const std::vector<std::string>& values)
+bool RegistryKey::writeMultiString(const AnsiText& name, const std::vector<std::string>& values)
 {
     std::string joined;
     for (const std::string& value : values)
@@ -249,16 +248,25 @@ bool RegistryKey::writeMultiString(const std::string& name, const std::vector<st
     return write(name, REG_MULTI_SZ, joined.data(), joined.size());
 }
 
-bool RegistryKey::writeMultiString(const GString& name, const std::vector<GString>& values)
+bool RegistryKey::writeMultiString(const AnsiText& name, const std::vector<GString>& values)
 {
     std::vector<std::string> narrow;
     narrow.reserve(values.size());
     for (const GString& value : values)
         narrow.push_back(value.to_narrow());
-    return writeMultiString(name.to_narrow(), narrow);
+    return writeMultiString(name, narrow);
 }
 
-bool RegistryKey::deleteValue(const std::string& name)
+bool RegistryKey::writeMultiString(const AnsiText& name, std::initializer_list<AnsiText> values)
+{
+    std::vector<std::string> narrow;
+    narrow.reserve(values.size());
+    for (const AnsiText& value : values)
+        narrow.push_back(value.narrow());
+    return writeMultiString(name, narrow);
+}
+
+bool RegistryKey::deleteValue(const AnsiText& name)
 {
     return record_->handle != nullptr &&
            RegDeleteValueA(record_->handle.get(), name.c_str()) == ERROR_SUCCESS;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "pelmora/export.h"
-#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/gettext/AnsiText.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -67,9 +68,10 @@ private:
 /// these from success. Whatever stands in the registry is safe to read.
 ///
 /// Paths, names and string values cross to the system in the ANSI code page, up to their first NUL
-/// for paths and names; each operation that takes one has a narrow and a wide form. A path is that
-/// below the root, "SOFTWARE\\Maker\\Program". An empty name is the key's default value. The
-/// defaults of wide `readString` cross over and back as well, up to their first NUL.
+/// for paths and names. Operations take narrow and wide text alike; those that return text have a
+/// form for each. A path is that below the root, "SOFTWARE\\Maker\\Program". An empty name is the
+/// key's default value. The defaults of wide `readString` cross over and back as well, up to their
+/// first NUL.
 ///
 /// An object is used by one thread at a time. It can be moved and not copied: a handle has one
 /// owner. What was moved from is a key that is not open, as a new one.
@@ -82,18 +84,10 @@ public:
     ~RegistryKey();
 
     /// Closes the key that is open, whatever follows; whether the new one is open now.
-    bool open(HKEY root, const std::string& path, OpenMode mode);
-    bool open(HKEY root, const GString& path, OpenMode mode)
-    {
-        return open(root, path.to_narrow(), mode);
-    }
+    bool open(HKEY root, const AnsiText& path, OpenMode mode);
 
     /// Below HKEY_LOCAL_MACHINE, or where that fails below HKEY_CURRENT_USER.
-    bool openMachineOrUser(const std::string& path, OpenMode mode);
-    bool openMachineOrUser(const GString& path, OpenMode mode)
-    {
-        return openMachineOrUser(path.to_narrow(), mode);
-    }
+    bool openMachineOrUser(const AnsiText& path, OpenMode mode);
 
     /// A REG_SZ value. The last byte is taken for the terminator and dropped unseen: a string that
     /// was stored without one loses its last character, on purpose.
@@ -104,62 +98,34 @@ public:
     }
 
     /// A REG_DWORD value; the default also for one that has not 4 bytes, which is no failure.
-    std::uint32_t readDword(const std::string& name, std::uint32_t fallback) const;
-    std::uint32_t readDword(const GString& name, std::uint32_t fallback) const
-    {
-        return readDword(name.to_narrow(), fallback);
-    }
+    std::uint32_t readDword(const AnsiText& name, std::uint32_t fallback) const;
 
     /// A REG_BINARY value, now the caller's, and the number of its bytes in `size`. Null and 0 on
     /// failure; a value without bytes is not null.
-    std::unique_ptr<std::byte[]> readBinary(const std::string& name, std::size_t& size) const;
-    std::unique_ptr<std::byte[]> readBinary(const GString& name, std::size_t& size) const
-    {
-        return readBinary(name.to_narrow(), size);
-    }
+    std::unique_ptr<std::byte[]> readBinary(const AnsiText& name, std::size_t& size) const;
 
     /// UTF-16 in a REG_BINARY value, all of it; an odd last byte is ignored.
-    GString readWideString(const std::string& name, const GString& fallback) const;
-    GString readWideString(const GString& name, const GString& fallback) const
-    {
-        return readWideString(name.to_narrow(), fallback);
-    }
+    GString readWideString(const AnsiText& name, const GString& fallback) const;
 
     /// A REG_MULTI_SZ value up to its first empty string; an empty list on failure.
     std::vector<std::string> readMultiString(const std::string& name) const;
     std::vector<GString> readMultiString(const GString& name) const;
 
     /// The writers give true on success and replace a value of any type.
-    bool writeString(const std::string& name, const std::string& value);
-    bool writeString(const GString& name, const GString& value)
-    {
-        return writeString(name.to_narrow(), value.to_narrow());
-    }
-    bool writeDword(const std::string& name, std::uint32_t value);
-    bool writeDword(const GString& name, std::uint32_t value)
-    {
-        return writeDword(name.to_narrow(), value);
-    }
+    bool writeString(const AnsiText& name, const AnsiText& value);
+    bool writeDword(const AnsiText& name, std::uint32_t value);
     /// Requires: `bytes` are as many as `size`; 4 GiB and more are refused.
-    bool writeBinary(const std::string& name, const void* bytes, std::size_t size);
-    bool writeBinary(const GString& name, const void* bytes, std::size_t size)
-    {
-        return writeBinary(name.to_narrow(), bytes, size);
-    }
+    bool writeBinary(const AnsiText& name, const void* bytes, std::size_t size);
     /// As REG_BINARY, without a terminator.
-    bool writeWideString(const std::string& name, const GString& value);
-    bool writeWideString(const GString& name, const GString& value)
-    {
-        return writeWideString(name.to_narrow(), value);
-    }
+    bool writeWideString(const AnsiText& name, const GString& value);
     /// The strings, each with its terminator, and two more NULs: one more than readers need, on
     /// purpose. A string that is empty ends the list for readers.
-    bool writeMultiString(const std::string& name, const std::vector<std::string>& values);
-    bool writeMultiString(const GString& name, const std::vector<GString>& values);
+    bool writeMultiString(const AnsiText& name, const std::vector<std::string>& values);
+    bool writeMultiString(const AnsiText& name, const std::vector<GString>& values);
+    bool writeMultiString(const AnsiText& name, std::initializer_list<AnsiText> values);
 
     /// False also when no key is open; `lastError` stays as it is.
-    bool deleteValue(const std::string& name);
-    bool deleteValue(const GString& name) { return deleteValue(name.to_narrow()); }
+    bool deleteValue(const AnsiText& name);
 
     /// Waits until the key is on the disk; the status of RegFlushKey, 0 on success, not 0 also when
     /// no key is open. `lastError` stays as it is.
@@ -178,12 +144,12 @@ public:
 private:
     struct Bytes;
 
-    bool attempt(HKEY root, const std::string& path, OpenMode mode);
+    bool attempt(HKEY root, const AnsiText& path, OpenMode mode);
     bool succeeded(long status) const;
     bool queryValue(const std::string& name, unsigned long expectedType, std::byte* room,
                     unsigned long& size) const;
     Bytes queryRaw(const std::string& name, unsigned long expectedType) const;
-    bool write(const std::string& name, unsigned long type, const void* data, std::size_t size);
+    bool write(const AnsiText& name, unsigned long type, const void* data, std::size_t size);
 
     struct Record;
     std::unique_ptr<Record> record_;

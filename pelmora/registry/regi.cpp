@@ -16,9 +16,9 @@ void report(bool log, const std::string& message)
 }
 
 /// "regiRead(path\name)"
-std::string call(const char* function, const std::string& path, const std::string& name)
+std::string call(const char* function, const AnsiText& path, const AnsiText& name)
 {
-    return std::string(function) + "(" + path + "\\" + name + ")";
+    return std::string(function) + "(" + path.narrow() + "\\" + name.narrow() + ")";
 }
 
 } // namespace
@@ -43,11 +43,11 @@ GString regiRead(HKEY root, const GString& path, const GString& name, const GStr
     return GString(regiRead(root, path.to_narrow(), name.to_narrow(), fallback.to_narrow(), log));
 }
 
-bool regiWrite(HKEY root, const std::string& path, const std::string& name,
-               const std::string& value, bool log)
+bool regiWrite(HKEY root, const AnsiText& path, const AnsiText& name, const AnsiText& value,
+               bool log)
 {
     const auto failed = [&](const char* step, const RegistryKey& key) {
-        report(log, call("regiWrite", path, name) + " = '" + value + "' - " + step +
+        report(log, call("regiWrite", path, name) + " = '" + value.narrow() + "' - " + step +
                         " error: " + key.lastError());
         return false;
     };
@@ -57,12 +57,7 @@ bool regiWrite(HKEY root, const std::string& path, const std::string& name,
     return key.writeString(name, value) || failed("write", key);
 }
 
-bool regiWrite(HKEY root, const GString& path, const GString& name, const GString& value, bool log)
-{
-    return regiWrite(root, path.to_narrow(), name.to_narrow(), value.to_narrow(), log);
-}
-
-bool regiDelete(HKEY root, const std::string& path, const std::string& name, bool log)
+bool regiDelete(HKEY root, const AnsiText& path, const AnsiText& name, bool log)
 {
     RegistryKey key;
     if (key.open(root, path, OpenMode::Write) && key.deleteValue(name))
@@ -71,24 +66,14 @@ bool regiDelete(HKEY root, const std::string& path, const std::string& name, boo
     return false;
 }
 
-bool regiDelete(HKEY root, const GString& path, const GString& name, bool log)
-{
-    return regiDelete(root, path.to_narrow(), name.to_narrow(), log);
-}
-
-bool regiDeleteKey(HKEY root, const std::string& path, bool log)
+bool regiDeleteKey(HKEY root, const AnsiText& path, bool log)
 {
     const LSTATUS status = RegDeleteKeyA(root, path.c_str());
     if (status == ERROR_SUCCESS)
         return true;
-    report(log, "regiDeleteKey(" + path +
+    report(log, "regiDeleteKey(" + path.narrow() +
                     ") - deletion error: " + systemErrorText(static_cast<std::uint32_t>(status)));
     return false;
-}
-
-bool regiDeleteKey(HKEY root, const GString& path, bool log)
-{
-    return regiDeleteKey(root, path.to_narrow(), log);
 }
 
 } // namespace Pelmora::Native

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pelmora/export.h"
-#include "pelmora/gettext/gstringUtil.h"
+#include "pelmora/gettext/AnsiText.h"
 
 #include <concepts>
 #include <string>
@@ -17,32 +17,28 @@
 namespace Pelmora::Native
 {
 
-/// The string value, or `fallback` when it cannot be had, which in the wide form crosses to the
-/// ANSI code page and back; never makes a key.
+/// The string value, or `fallback` when it cannot be read; never makes a key. In the wide form the
+/// fallback crosses to the ANSI code page and back.
 PELMORA_API std::string regiRead(HKEY root, const std::string& path, const std::string& name,
                                  const std::string& fallback, bool log = false);
 PELMORA_API GString regiRead(HKEY root, const GString& path, const GString& name,
                              const GString& fallback, bool log = false);
 
 /// Whether the string value was written; makes the key and its parents when they are not there.
-PELMORA_API bool regiWrite(HKEY root, const std::string& path, const std::string& name,
-                           const std::string& value, bool log = false);
-PELMORA_API bool regiWrite(HKEY root, const GString& path, const GString& name,
-                           const GString& value, bool log = false);
+PELMORA_API bool regiWrite(HKEY root, const AnsiText& path, const AnsiText& name,
+                           const AnsiText& value, bool log = false);
 
 /// Whether the value was deleted. The line for a value that is not there ends without a reason, on
 /// purpose: deletion leaves no text.
-PELMORA_API bool regiDelete(HKEY root, const std::string& path, const std::string& name,
+PELMORA_API bool regiDelete(HKEY root, const AnsiText& path, const AnsiText& name,
                             bool log = false);
-PELMORA_API bool regiDelete(HKEY root, const GString& path, const GString& name, bool log = false);
 
 /// Whether the key was deleted with its values; one that has subkeys is not.
-PELMORA_API bool regiDeleteKey(HKEY root, const std::string& path, bool log = false);
-PELMORA_API bool regiDeleteKey(HKEY root, const GString& path, bool log = false);
+PELMORA_API bool regiDeleteKey(HKEY root, const AnsiText& path, bool log = false);
 
-/// A text in place of `log` is one text too many, and would delete more than was meant.
+/// Deleted because a value's name would convert to `log`, and the whole key would go.
 template <class Path, class Text>
-requires(std::convertible_to<Text, std::string> ||
-         std::convertible_to<Text, GString>) bool regiDeleteKey(HKEY, const Path&, Text) = delete;
+requires std::convertible_to<Text, AnsiText>
+bool regiDeleteKey(HKEY, const Path&, Text) = delete;
 
 } // namespace Pelmora::Native
