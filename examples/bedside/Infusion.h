@@ -17,7 +17,7 @@ struct Infusion {
 
     bool isEmptyAfter(std::chrono::duration<double> elapsed) const;
 
-    /// How long the rest of the bag lasts, "19 hr 5 min", or that there is no rest.
+    /// How long the rest of the bag lasts, "19 hr 5 min", or a text that says that it is empty.
     Pelmora::GString lastsAfter(std::chrono::duration<double> elapsed) const;
 };
 

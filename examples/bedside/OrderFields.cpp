@@ -45,7 +45,7 @@ Order readOrder(const OrderFields& fields)
     return order;
 }
 
-/// The reasons are written to stand behind a colon.
+/// The reasons are written to follow a colon.
 GString sentence(const GString& reason)
 {
     const WideView text = reason;

@@ -45,7 +45,7 @@ OrderAnswer answerOrder(const OrderFields& fields);
 /// Whether a dose in this unit needs the patient's weight.
 bool isPerWeight(const std::string& doseUnit);
 
-/// Stands for a result that there is not.
+/// Shown in place of a missing result.
 Pelmora::GString noResult();
 
 } // namespace Bedside

@@ -32,7 +32,7 @@ public:
     const GString& message() const noexcept { return message_; }
     const GString& source() const noexcept { return source_; }
     const GString& targetSite() const noexcept { return targetSite_; }
-    /// One call a line, the latest first; empty where it cannot be had.
+    /// One call per line, the latest first; empty where the system does not tell.
     const GString& stackTrace() const noexcept { return stackTrace_; }
 
 private:

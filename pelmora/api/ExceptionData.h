@@ -31,8 +31,8 @@ public:
     GString mParameters;  ///< anything more
 
     ExceptionData();
-    /// Of an `Exception` source, site, message and stack; of any other its message, in UTF-8 or, if
-    /// it is not that, in the ANSI code page.
+    /// Takes source, site, message and stack of an `Exception`, and the message of any other
+    /// exception, read as UTF-8 if it is well-formed and in the ANSI code page otherwise.
     explicit ExceptionData(const std::exception& aException);
     explicit ExceptionData(const GString& aMsg);
     ExceptionData(const GString& aMsg, const GString& aSource, const GString& aStackTrace,

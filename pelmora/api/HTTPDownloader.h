@@ -13,8 +13,8 @@ public:
     static constexpr int defaultTimeoutMs = 60000;
 
     /// Downloads what an "http" or "https" address leads to, and only then replaces the file by it.
-    /// True on success. False for any failure, an answer of the server other than success among
-    /// them; the file is as it was then, unless it could not be written: it is deleted first.
+    /// Returns true on success and false for any failure, including a response other than success.
+    /// After a failure the file is as it was, unless it could not be written: it is deleted first.
     ///
     /// The texts are in the ANSI code page. `timeoutMs` is for the whole download: -1 for no limit,
     /// 0 runs out at once, other negative numbers fail. `user` and `pass`, when neither is null,

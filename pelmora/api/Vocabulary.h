@@ -6,7 +6,7 @@
 
 // The shared vocabulary of the simulators: stable numbers for drugs, routes, laboratory values and
 // the like. Programs store these numbers and exchange them, so a value never changes, gaps and
-// duplicates included; new members are only ever added behind the last ordinary one. There are no
+// duplicates included; new members are only ever added after the last ordinary one. There are no
 // display texts here: an application that shows the members brings its own.
 
 namespace Pelmora

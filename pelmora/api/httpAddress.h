@@ -13,11 +13,12 @@ namespace Pelmora::Native
 using Platform::HttpAddress;
 
 /// Reads an absolute "http" or "https" address in UTF-8; characters that an address may not have
-/// are percent-encoded. White space around it, a user name in it and a fragment are dropped. None
-/// for anything else.
+/// are percent-encoded. White space around it, a user name in it and a fragment are dropped.
+/// Returns nothing for any other text.
 std::optional<HttpAddress> parseHttpAddress(std::string_view url);
 
-/// What `reference` means in a response from `base`. None when that is no HTTP address.
+/// The address that `reference` means in a response from `base`; nothing when that is not an HTTP
+/// address.
 std::optional<HttpAddress> resolveHttpAddress(const HttpAddress& base, std::string_view reference);
 
 /// Whether the server is the same: scheme, host and port.

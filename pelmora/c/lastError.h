@@ -11,7 +11,7 @@ namespace Pelmora::C
 {
 
 /// Keeps the message for the calling thread and gives `status`. It needs no memory but the block
-/// that a thread gets with its first failure; where that cannot be had, a message that says so
+/// that a thread gets with its first failure; without memory for it, a message that says so
 /// stands for the thread that failed last.
 pelmora_status fail(pelmora_status status, std::string_view message) noexcept;
 

@@ -31,7 +31,7 @@ struct HttpCredentials {
 struct HttpResponse {
     int status = 0;
     std::string location; ///< where a redirect leads; "" without one
-    /// The length as the server states it, not examined; none when it states none, or when the body
+    /// The length as the server states it, unchecked; absent when it states none, and when the body
     /// came in chunks, which have their own lengths.
     std::optional<std::string> contentLength;
     std::string body;
@@ -51,11 +51,11 @@ inline int millisecondsUntil(std::chrono::steady_clock::time_point end)
 /// One request with GET, directly to the server whatever proxy the system names, and the whole
 /// response, which may be a failure or a redirect: neither is followed up. Credentials are given
 /// only when the server asks for them, by the Digest or the Basic scheme. Certificates are verified
-/// by the system's store. None when there is no connection, no trust, no complete response, or no
-/// time left: the deadline holds for name resolution, authentication and body together. A response
-/// is complete when the blank line after its head and its whole body have come. None, too, when
-/// more comes than the stated length, where the system's client lets that be seen: WinHTTP does
-/// not.
+/// by the system's store. Returns nothing without a connection, without trust, after an incomplete
+/// response and after the deadline, which holds for name resolution, authentication and body
+/// together. A response is complete when the blank line after its head and its whole body have
+/// come. A body longer than its stated length gives nothing, too, except with WinHTTP, which hides
+/// the rest.
 ///
 /// May run in several threads at once.
 std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCredentials* credentials,

@@ -5,8 +5,8 @@
 namespace Pelmora::Native::Platform
 {
 
-/// Opens a text file in Notepad and does not wait; nothing happens where there is no Notepad, or no
-/// memory.
+/// Opens a text file in Notepad and does not wait; does nothing on a system without Notepad, or
+/// without memory.
 void openInNotepad(const std::string& path) noexcept;
 
 } // namespace Pelmora::Native::Platform

@@ -5,7 +5,7 @@
 namespace Pelmora::Native::Platform
 {
 
-/// Differs between a process and its forked children.
+/// The number of this process, which a forked child does not share.
 std::uint32_t processId() noexcept;
 
 } // namespace Pelmora::Native::Platform

@@ -5,7 +5,7 @@
 namespace Pelmora::Native::Platform
 {
 
-/// The calls that lead to this one, the latest first, one a line; empty where it cannot be had.
+/// The calls that led here, one per line, the latest first; empty where the system does not tell.
 std::string stackTrace();
 
 } // namespace Pelmora::Native::Platform

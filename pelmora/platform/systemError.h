@@ -7,9 +7,9 @@
 namespace Pelmora::Native::Platform
 {
 
-/// The system's error numbers, with messages that are UTF-8 in every locale and code page;
-/// otherwise as std::system_category(), whose codes are other ones to a comparison. Safe to call
-/// from several threads.
+/// The system's error numbers with messages in UTF-8, whatever the locale and the code page. Codes
+/// of this category do not compare equal to those of std::system_category(). Safe to call from
+/// several threads.
 const std::error_category& systemErrors() noexcept;
 
 } // namespace Pelmora::Native::Platform

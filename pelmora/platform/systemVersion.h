@@ -10,8 +10,8 @@
 namespace Pelmora::Native::Platform
 {
 
-/// The record where the system has one, a line of text where it has not, nothing when it does not
-/// answer.
+/// The version record on Windows, a line of text on other systems, or nothing when the system does
+/// not answer.
 using SystemVersion = std::variant<std::monostate, OsVersion, std::string>;
 
 SystemVersion systemVersion();

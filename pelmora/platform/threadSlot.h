@@ -4,7 +4,7 @@
 #include <cstdint>
 
 // What the host must provide to keep an object for each thread. The compilers' own thread_local
-// ends the program where memory for it cannot be had.
+// ends the program when there is no memory for it.
 
 namespace Pelmora::Native::Platform
 {

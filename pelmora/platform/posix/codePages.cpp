@@ -24,7 +24,7 @@ constexpr unsigned int ansiPage = 1252;
 constexpr unsigned int oemPage = 437;
 constexpr unsigned int gb18030Page = 54936;
 
-/// The page behind the numbers that stand for a default.
+/// Resolves CP_ACP, CP_THREAD_ACP and CP_OEMCP.
 unsigned int actualPage(unsigned int codePage)
 {
     switch (codePage) {
@@ -71,14 +71,14 @@ public:
         return handle_ != reinterpret_cast<iconv_t>(-1); // NOLINT: iconv's own error value
     }
 
-    /// As much as possible; 0 when all is converted, otherwise the error number.
+    /// Converts as much as possible; 0 when that is all, otherwise the error number.
     int convert(char*& in, std::size_t& inLeft, char*& out, std::size_t& outLeft)
     {
         const auto irreversible = iconv(handle_, &in, &inLeft, &out, &outLeft);
         return irreversible == static_cast<std::size_t>(-1) ? errno : 0;
     }
 
-    /// Gives out what is held back until more comes.
+    /// Writes what iconv holds back until more text comes.
     int flush(char*& out, std::size_t& outLeft)
     {
         const auto irreversible = iconv(handle_, nullptr, nullptr, &out, &outLeft);
@@ -109,7 +109,7 @@ std::size_t malformedUtf8Length(const unsigned char* text)
     return lead >= 0xF0 && inRange && isContinuation(text[2]) ? 3 : 2;
 }
 
-/// Whether iconv joins a letter and the mark behind it into one character, which Windows does not.
+/// Whether iconv joins a letter and the mark after it into one character, which Windows does not.
 bool joinsMarks(unsigned int page)
 {
     return page == 1255 || page == 1258;
@@ -217,8 +217,8 @@ wchar_t takeCharacter(unsigned int page, WideView& text)
     return isForeign(page, unit) ? L'?' : static_cast<wchar_t>(unit);
 }
 
-/// The fits of characters that a page was found to lack, the latest of those that share a place.
-/// Asking here is ten times quicker than letting iconv fail again.
+/// Remembers the fits of characters that a page was found to lack; of those that share a slot, the
+/// latest. Asking here is much quicker than letting iconv fail again.
 class KnownFits
 {
 public:

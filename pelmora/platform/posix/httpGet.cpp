@@ -48,8 +48,8 @@ std::size_t keepBody(char* data, std::size_t one, std::size_t size, void* arriva
     }
 }
 
-/// Called with each whole line of a head. curl takes a head for whole when the connection ends in
-/// it; only the blank line tells.
+/// Called with each whole line of a head. curl takes a head for whole when the connection ends
+/// inside it; only the blank line proves it.
 std::size_t watchHead(char* data, std::size_t one, std::size_t size, void* arrivals) noexcept
 {
     auto& seen = *static_cast<Arrivals*>(arrivals);
@@ -64,8 +64,8 @@ std::size_t watchHead(char* data, std::size_t one, std::size_t size, void* arriv
     return size * one;
 }
 
-/// Called with all that passes. Counts the body's bytes as they come: curl itself drops without a
-/// word what comes beyond the stated length.
+/// Called with everything that passes. Counts the body's bytes, because curl silently drops what
+/// exceeds the stated length.
 int countBody(CURL*, curl_infotype type, char*, std::size_t size, void* arrivals) noexcept
 {
     if (type == CURLINFO_DATA_IN)
@@ -92,9 +92,9 @@ void setTimeLimit(CURL* handle, long milliseconds, bool limited)
 {
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, limited ? milliseconds : 0L);
-    // Or the end would wait for a name that is still being resolved.
+    // Without it, clean-up would wait for a name that is still being resolved.
     curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
-    // Five minutes when not set.
+    // curl's default is five minutes.
     curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
 }
 

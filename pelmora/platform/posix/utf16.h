@@ -15,7 +15,7 @@ namespace Pelmora::Native::Platform
 /// that whoever gets them refuses the text instead of reading another one.
 std::string toUtf8(WideView text);
 
-/// Requires: well-formed UTF-8. Of other bytes, what is read is not defined, but harmless.
+/// Requires: well-formed UTF-8; other bytes give some harmless text.
 WideString toUtf16(std::string_view utf8);
 
 } // namespace Pelmora::Native::Platform

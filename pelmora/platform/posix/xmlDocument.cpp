@@ -42,7 +42,7 @@ std::string qualifiedName(const xmlNs* space, const xmlChar* localName)
     return name.append(view(localName));
 }
 
-/// The node behind this one in document order, within `top`; null at the end. Goes by pointers
+/// The node after this one in document order, within `top`; null at the end. Goes by pointers
 /// alone, so that no depth can exhaust the stack. The content of an entity is not entered: where
 /// it counts, it stands in the tree itself.
 xmlNode* following(xmlNode* node, const xmlNode* top)
@@ -54,7 +54,7 @@ xmlNode* following(xmlNode* node, const xmlNode* top)
     return node == top ? nullptr : node->next;
 }
 
-/// The node as XML, with the namespaces that it has from outside.
+/// The node as XML, with declarations of the namespaces it inherits.
 WideString outerXml(xmlNode* node)
 {
     const Tree ownTree(xmlNewDoc(nullptr));

@@ -13,7 +13,7 @@ namespace Pelmora::Native::Platform
 namespace
 {
 
-constexpr int maxDepth = 256; // as in MSXML 6
+constexpr int maxDepth = 256; // the limit of MSXML 6, so that both builds agree
 
 // libxml2 limits what general entities grow to, but not parameter entities.
 constexpr int maxParameterReferences = 10000;
@@ -190,7 +190,7 @@ Tree Reading::tree(std::string_view bytes)
                                   nullptr, encoding_, options));
     if (context_->errNo == XML_ERR_NO_MEMORY)
         throw std::bad_alloc();
-    // The parser takes a NUL behind the root for the end of the input.
+    // The parser takes a NUL after the root for the end of the input.
     const xmlParserInput* input = context_->input;
     const bool readToEnd = input != nullptr && input->cur == input->end;
     const bool isSound =

@@ -14,7 +14,7 @@ struct TreeFree {
 using Tree = std::unique_ptr<xmlDoc, TreeFree>;
 
 /// The tree of a well-formed document within the limits that XmlDocument states, otherwise null.
-/// With an encoding, what the document declares is not heeded.
+/// A given encoding overrides the declared one.
 Tree readXml(std::string_view bytes, const char* encoding);
 
 } // namespace Pelmora::Native::Platform

@@ -15,8 +15,8 @@ namespace Pelmora::Native::Platform
 class XmlEntities
 {
 public:
-    /// False when the entities or defaults of the document, in UTF-8, grow out of proportion, when
-    /// entities are nested more than 40 deep, as libxml2 has it, and for declarations that are not
+    /// Reads a document in UTF-8. False when its entities or defaults grow out of proportion, when
+    /// entities are nested more than 40 deep (libxml2's limit), or when a declaration is not
     /// well-formed. Other mistakes are left to the parser. Requires: this object is new.
     bool read(std::string_view document);
 

@@ -1,6 +1,6 @@
 #include "pelmora/platform/httpGet.h"
 
-#include "pelmora/platform/win32/Exchange.h"
+#include "pelmora/platform/win32/WinHttpRequest.h"
 
 namespace Pelmora::Native::Platform
 {
@@ -46,21 +46,21 @@ bool setDigestCredentials(HINTERNET request, const HttpCredentials& credentials)
 }
 
 /// Answers the server's demand for authentication; false when that cannot be done.
-bool authenticate(Exchange& exchange, const HttpCredentials& credentials)
+bool authenticate(WinHttpRequest& request, const HttpCredentials& credentials)
 {
     DWORD supported = 0;
     DWORD first = 0;
     DWORD target = 0;
-    if (WinHttpQueryAuthSchemes(exchange.request(), &supported, &first, &target) == 0)
+    if (WinHttpQueryAuthSchemes(request.handle(), &supported, &first, &target) == 0)
         return false;
     // What is left of the body would be read by WinHTTP, which under Wine takes errors for sizes.
     std::string unused;
-    if (!exchange.readBody(unused))
+    if (!request.readBody(unused))
         return false;
     if ((supported & WINHTTP_AUTH_SCHEME_DIGEST) != 0)
-        return setDigestCredentials(exchange.request(), credentials) && exchange.send(L"");
+        return setDigestCredentials(request.handle(), credentials) && request.send(L"");
     return (supported & WINHTTP_AUTH_SCHEME_BASIC) != 0 &&
-           exchange.send(basicAuthorization(credentials));
+           request.send(basicAuthorization(credentials));
 }
 
 } // namespace
@@ -68,21 +68,21 @@ bool authenticate(Exchange& exchange, const HttpCredentials& credentials)
 std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCredentials* credentials,
                                     const Deadline& deadline)
 {
-    Exchange exchange(address.secure, widened(address.host), address.port, widened(address.target),
-                      deadline);
-    if (!exchange.send(L""))
+    WinHttpRequest request(address.secure, widened(address.host), address.port,
+                           widened(address.target), deadline);
+    if (!request.send(L""))
         return std::nullopt;
     // A refused demand leaves its own response, whose status says so.
-    if (exchange.status() == unauthorized && credentials != nullptr &&
-        !authenticate(exchange, *credentials))
+    if (request.status() == unauthorized && credentials != nullptr &&
+        !authenticate(request, *credentials))
         return std::nullopt;
 
     HttpResponse response;
-    response.status = static_cast<int>(exchange.status());
-    response.location = exchange.header(WINHTTP_QUERY_LOCATION).value_or("");
-    if (!exchange.header(WINHTTP_QUERY_TRANSFER_ENCODING))
-        response.contentLength = exchange.header(WINHTTP_QUERY_CONTENT_LENGTH);
-    if (!exchange.readBody(response.body))
+    response.status = static_cast<int>(request.status());
+    response.location = request.header(WINHTTP_QUERY_LOCATION).value_or("");
+    if (!request.header(WINHTTP_QUERY_TRANSFER_ENCODING))
+        response.contentLength = request.header(WINHTTP_QUERY_CONTENT_LENGTH);
+    if (!request.readBody(response.body))
         return std::nullopt;
     return response;
 }

@@ -2,7 +2,7 @@
 
 #include "pelmora/platform/systemError.h"
 #include "pelmora/platform/win32/XmlEntities.h"
-#include "pelmora/platform/win32/com.h"
+#include "pelmora/platform/win32/comOwners.h"
 
 #include <algorithm>
 #include <cstring>
@@ -40,7 +40,7 @@ void require(HRESULT result)
                                 "MSXML 6 cannot be used; repair the Windows installation");
 }
 
-ComPointer<IXMLDOMDocument2> newDocument(const ComUse& com)
+ComPointer<IXMLDOMDocument2> newDocument(const ComApartment& com)
 {
     require(com.status());
     ComPointer<IXMLDOMDocument2> document;
@@ -71,7 +71,7 @@ std::optional<std::string_view> declaredEncoding(std::string_view text)
     if (close == std::string_view::npos)
         return std::nullopt;
     const std::string_view encoding = declaration.substr(open + 1, close - open - 1);
-    // What is no name of an encoding stays, so that the parser reports it.
+    // An unknown name stays, so that the parser reports it.
     const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
     const bool isName =
         !encoding.empty() && isLetter(encoding.front()) &&
@@ -97,7 +97,7 @@ std::optional<UINT> codePageOf(std::string_view encoding)
 /// Longer texts are refused, so that no conversion exceeds what the system can count.
 constexpr std::size_t longest = std::numeric_limits<int>::max() / 3;
 
-/// None when the text is too long or has a surrogate that is not part of a pair.
+/// Nothing when the text is too long or has an unpaired surrogate.
 std::optional<std::string> toUtf8(std::wstring_view text)
 {
     if (text.empty() || text.size() > longest)
@@ -175,10 +175,10 @@ DOMNodeType nodeType(IXMLDOMNode& node)
 
 /// Goes through the nodes within `top` in document order, `top` first, without recursion, so that
 /// no depth can exhaust the stack. References to entities are not entered.
-class Walk
+class DocumentOrder
 {
 public:
-    explicit Walk(IXMLDOMNode& top)
+    explicit DocumentOrder(IXMLDOMNode& top)
     {
         top.AddRef();
         *node_.receive() = &top;
@@ -186,7 +186,7 @@ public:
 
     IXMLDOMNode* node() const { return node_.get(); }
 
-    /// To the next node; node() is null behind the last one.
+    /// Goes to the next node; node() is null after the last one.
     void advance()
     {
         NodePointer next;
@@ -219,7 +219,7 @@ private:
 } // namespace
 
 struct XmlDocument::Content {
-    ComUse com;
+    ComApartment com;
     ComPointer<IXMLDOMDocument2> document = newDocument(com);
     XmlEntities entities;
 
@@ -235,7 +235,7 @@ struct XmlDocument::Content {
     WideString textWithin(IXMLDOMNode& top) const;
 };
 
-/// Whether the text in UTF-8, whatever it declares to be in, is well-formed.
+/// Whether the UTF-8 text is well-formed, whatever encoding it declares.
 bool XmlDocument::Content::load(std::string utf8)
 {
     if (const auto encoding = declaredEncoding(utf8))
@@ -261,7 +261,7 @@ WideString XmlDocument::Content::textWithin(IXMLDOMNode& top) const
     // MSXML's text property trims white space, and under Wine takes time by the square of how many
     // references there are.
     WideString text;
-    for (Walk inside(top); inside.node() != nullptr; inside.advance()) {
+    for (DocumentOrder inside(top); inside.node() != nullptr; inside.advance()) {
         const DOMNodeType type = nodeType(*inside.node());
         if (type == NODE_ENTITY_REFERENCE) {
             const auto name = toUtf8(nodeName(*inside.node()));
@@ -328,7 +328,7 @@ WideString XmlDocument::textOfFirst(const WideString& name) const
     if (!root)
         return {};
     // MSXML's own search by name does not look at prefixes under Wine.
-    Walk element(*root.get());
+    DocumentOrder element(*root.get());
     while (element.node() != nullptr && (nodeType(*element.node()) != NODE_ELEMENT ||
                                          (name != L"*" && nodeName(*element.node()) != name)))
         element.advance();

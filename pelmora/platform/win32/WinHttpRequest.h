@@ -17,14 +17,14 @@ namespace Pelmora::Native::Platform
 ///
 /// WinHTTP runs in its asynchronous mode, because the limits of the synchronous one are for each
 /// step and not for the whole.
-class Exchange
+class WinHttpRequest
 {
 public:
-    Exchange(bool secure, const std::wstring& host, INTERNET_PORT port, const std::wstring& target,
-             const Deadline& deadline);
-    Exchange(const Exchange&) = delete;
-    Exchange& operator=(const Exchange&) = delete;
-    ~Exchange();
+    WinHttpRequest(bool secure, const std::wstring& host, INTERNET_PORT port,
+                   const std::wstring& target, const Deadline& deadline);
+    WinHttpRequest(const WinHttpRequest&) = delete;
+    WinHttpRequest& operator=(const WinHttpRequest&) = delete;
+    ~WinHttpRequest();
 
     /// Sends the request with these further header lines and receives the response's whole head.
     /// May be called again to answer a demand for authentication, after its body has been read.
@@ -32,16 +32,16 @@ public:
 
     DWORD status() const;
 
-    /// One of WINHTTP_QUERY_*; bytes as they came.
+    /// The header that a WINHTTP_QUERY_* number names, in bytes as they came.
     std::optional<std::string> header(DWORD query) const;
 
     bool readBody(std::string& body);
 
-    /// Null when it could not be made; nothing can be sent then.
-    HINTERNET request() const noexcept { return request_.get(); }
+    /// Null when the request could not be made; `send` then fails.
+    HINTERNET handle() const noexcept { return request_.get(); }
 
 private:
-    class Steps;
+    class PendingCall;
 
     struct HandleClose {
         void operator()(void* handle) const { WinHttpCloseHandle(handle); }
@@ -49,12 +49,12 @@ private:
     using Handle = std::unique_ptr<void, HandleClose>;
 
     bool limitStep() const;
-    /// Makes a call that WinHTTP completes later; whether it did so, in this way, by the deadline.
+    /// Makes a call that WinHTTP completes later; true if it completed as expected by the deadline.
     template <typename Call>
     bool step(DWORD completion, const Call& call);
     bool hasWholeHead() const;
 
-    std::shared_ptr<Steps> steps_;
+    std::shared_ptr<PendingCall> pending_;
     Handle session_;
     Handle connection_;
     Handle request_;

@@ -9,7 +9,7 @@
 #include <combaseapi.h>
 #include <oleauto.h>
 
-// Owners of what COM lends.
+// Owners of COM's objects, texts and values, and of COM itself. Internal to platform/win32/.
 
 namespace Pelmora::Native::Platform
 {
@@ -90,15 +90,15 @@ public:
 };
 
 /// Keeps COM running while it lives. A thread that has not initialised COM can use it meanwhile, in
-/// the multi-threaded apartment; one that has keeps its own apartment. That an object outlives a
-/// thread's own initialisation is no danger then. Needs Windows 8.
-class ComUse
+/// the multi-threaded apartment; one that has keeps its own apartment. Objects may outlive a
+/// thread's own initialisation. Needs Windows 8.
+class ComApartment
 {
 public:
-    ComUse() noexcept : status_(CoIncrementMTAUsage(&cookie_)) {}
-    ComUse(const ComUse&) = delete;
-    ComUse& operator=(const ComUse&) = delete;
-    ~ComUse()
+    ComApartment() noexcept : status_(CoIncrementMTAUsage(&cookie_)) {}
+    ComApartment(const ComApartment&) = delete;
+    ComApartment& operator=(const ComApartment&) = delete;
+    ~ComApartment()
     {
         if (SUCCEEDED(status_))
             CoDecrementMTAUsage(cookie_);

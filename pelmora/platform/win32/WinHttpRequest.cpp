@@ -1,4 +1,4 @@
-#include "pelmora/platform/win32/Exchange.h"
+#include "pelmora/platform/win32/WinHttpRequest.h"
 
 #include <algorithm>
 #include <array>
@@ -10,15 +10,15 @@ namespace Pelmora::Native::Platform
 {
 
 /// What WinHTTP's threads report. Lives until the request's handle has reported its end, which may
-/// be later than the exchange's: a step that is under way cannot always be cut short.
-class Exchange::Steps
+/// be later than the request's own: a step that is under way cannot always be cut short.
+class WinHttpRequest::PendingCall
 {
 public:
     std::array<char, 65536> piece; ///< where WinHTTP puts what it reads
 
-    static void start(const std::shared_ptr<Steps>& steps) { steps->self_ = steps; }
+    static void start(const std::shared_ptr<PendingCall>& call) { call->self_ = call; }
 
-    /// Before each call that WinHTTP completes later.
+    /// To be called before each call that WinHTTP completes later.
     void begin()
     {
         const std::lock_guard<std::mutex> lock(mutex_);
@@ -33,7 +33,7 @@ public:
         if (!deadline) {
             changed_.wait(lock, isFinished);
         } else {
-            // A call that completes at once may have taken its time nevertheless.
+            // A call that completed at once may still have taken too long.
             const bool finished = changed_.wait_until(lock, *deadline, isFinished);
             if (!finished || std::chrono::steady_clock::now() >= *deadline)
                 return false;
@@ -51,16 +51,17 @@ public:
     static void CALLBACK report(HINTERNET, DWORD_PTR context, DWORD status, void* information,
                                 DWORD size)
     {
-        auto* const steps = reinterpret_cast<Steps*>(context); // NOLINT: WinHTTP's own type for it
-        if (steps == nullptr)
+        auto* const call =
+            reinterpret_cast<PendingCall*>(context); // NOLINT: WinHTTP's own type for it
+        if (call == nullptr)
             return; // of the session or the connection
         if (status == WINHTTP_CALLBACK_STATUS_HANDLE_CLOSING) {
-            const auto last = std::move(steps->self_);
+            const auto last = std::move(call->self_);
             return;
         }
         if (status == WINHTTP_CALLBACK_STATUS_DATA_AVAILABLE)
             size = *static_cast<DWORD*>(information);
-        steps->finish(status, size);
+        call->finish(status, size);
     }
 
 private:
@@ -78,7 +79,7 @@ private:
     bool finished_ = false;
     DWORD status_ = 0;
     DWORD size_ = 0;
-    std::shared_ptr<Steps> self_; ///< while WinHTTP knows its address
+    std::shared_ptr<PendingCall> self_; ///< while WinHTTP knows its address
 };
 
 namespace
@@ -91,9 +92,9 @@ void setOption(HINTERNET handle, DWORD option, DWORD value)
 
 } // namespace
 
-Exchange::Exchange(bool secure, const std::wstring& host, INTERNET_PORT port,
-                   const std::wstring& target, const Deadline& deadline)
-    : steps_(std::make_shared<Steps>()), deadline_(deadline)
+WinHttpRequest::WinHttpRequest(bool secure, const std::wstring& host, INTERNET_PORT port,
+                               const std::wstring& target, const Deadline& deadline)
+    : pending_(std::make_shared<PendingCall>()), deadline_(deadline)
 {
     session_.reset(WinHttpOpen(nullptr, WINHTTP_ACCESS_TYPE_NO_PROXY, WINHTTP_NO_PROXY_NAME,
                                WINHTTP_NO_PROXY_BYPASS, WINHTTP_FLAG_ASYNC));
@@ -108,28 +109,28 @@ Exchange::Exchange(bool secure, const std::wstring& host, INTERNET_PORT port,
                            WINHTTP_FLAG_ESCAPE_DISABLE | (secure ? WINHTTP_FLAG_SECURE : 0)));
     if (request_ == nullptr)
         return;
-    setOption(request(), WINHTTP_OPTION_DISABLE_FEATURE,
+    setOption(handle(), WINHTTP_OPTION_DISABLE_FEATURE,
               WINHTTP_DISABLE_REDIRECTS | WINHTTP_DISABLE_COOKIES | WINHTTP_DISABLE_KEEP_ALIVE);
-    // Never the name and password of the user who is logged on.
-    setOption(request(), WINHTTP_OPTION_AUTOLOGON_POLICY, WINHTTP_AUTOLOGON_SECURITY_LEVEL_HIGH);
+    // The name and password of the user who is logged on are never sent.
+    setOption(handle(), WINHTTP_OPTION_AUTOLOGON_POLICY, WINHTTP_AUTOLOGON_SECURITY_LEVEL_HIGH);
 
-    auto context = reinterpret_cast<DWORD_PTR>(steps_.get()); // NOLINT: WinHTTP's own type for it
+    auto context = reinterpret_cast<DWORD_PTR>(pending_.get()); // NOLINT: WinHTTP's own type for it
     constexpr DWORD notifications =
         WINHTTP_CALLBACK_FLAG_ALL_COMPLETIONS | WINHTTP_CALLBACK_FLAG_HANDLES;
-    if (WinHttpSetOption(request(), WINHTTP_OPTION_CONTEXT_VALUE, &context, sizeof context) == 0 ||
-        WinHttpSetStatusCallback(request(), &Steps::report, notifications, 0) ==
+    if (WinHttpSetOption(handle(), WINHTTP_OPTION_CONTEXT_VALUE, &context, sizeof context) == 0 ||
+        WinHttpSetStatusCallback(handle(), &PendingCall::report, notifications, 0) ==
             WINHTTP_INVALID_STATUS_CALLBACK) {
         request_.reset();
         return;
     }
-    Steps::start(steps_);
+    PendingCall::start(pending_);
 }
 
-Exchange::~Exchange() = default;
+WinHttpRequest::~WinHttpRequest() = default;
 
 /// WinHTTP's own limits end each step by the deadline as well. Closing the handle would not: under
 /// Wine, a step that waits for the server keeps its thread and its connection until it ends.
-bool Exchange::limitStep() const
+bool WinHttpRequest::limitStep() const
 {
     int left = 0; // no limit
     if (deadline_) {
@@ -137,56 +138,56 @@ bool Exchange::limitStep() const
         if (left == 0)
             return false;
     }
-    setOption(request(), WINHTTP_OPTION_RECEIVE_RESPONSE_TIMEOUT,
+    setOption(handle(), WINHTTP_OPTION_RECEIVE_RESPONSE_TIMEOUT,
               left == 0 ? INFINITE : static_cast<DWORD>(left));
-    return WinHttpSetTimeouts(request(), left, left, left, left) != 0;
+    return WinHttpSetTimeouts(handle(), left, left, left, left) != 0;
 }
 
 template <typename Call>
-bool Exchange::step(DWORD completion, const Call& call)
+bool WinHttpRequest::step(DWORD completion, const Call& call)
 {
     if (!limitStep())
         return false;
-    steps_->begin();
-    return call() != 0 && steps_->wait(completion, deadline_);
+    pending_->begin();
+    return call() != 0 && pending_->wait(completion, deadline_);
 }
 
-bool Exchange::send(const std::wstring& headers)
+bool WinHttpRequest::send(const std::wstring& headers)
 {
     if (request_ == nullptr)
         return false;
-    const auto context = reinterpret_cast<DWORD_PTR>(steps_.get()); // NOLINT: as above
+    const auto context = reinterpret_cast<DWORD_PTR>(pending_.get()); // NOLINT: as above
     return step(WINHTTP_CALLBACK_STATUS_SENDREQUEST_COMPLETE,
                 [&] {
-                    return WinHttpSendRequest(
-                        request(), headers.empty() ? nullptr : headers.c_str(),
-                        static_cast<DWORD>(headers.size()), nullptr, 0, 0, context);
+                    return WinHttpSendRequest(handle(), headers.empty() ? nullptr : headers.c_str(),
+                                              static_cast<DWORD>(headers.size()), nullptr, 0, 0,
+                                              context);
                 }) &&
            step(WINHTTP_CALLBACK_STATUS_HEADERS_AVAILABLE,
-                [&] { return WinHttpReceiveResponse(request(), nullptr); }) &&
+                [&] { return WinHttpReceiveResponse(handle(), nullptr); }) &&
            hasWholeHead();
 }
 
-/// Wine takes a head for whole when the connection ends in it; only the blank line tells.
-bool Exchange::hasWholeHead() const
+/// Wine takes a head for whole when the connection ends inside it; only the blank line proves it.
+bool WinHttpRequest::hasWholeHead() const
 {
     const auto head = header(WINHTTP_QUERY_RAW_HEADERS_CRLF);
     return head && head->ends_with("\r\n\r\n");
 }
 
-DWORD Exchange::status() const
+DWORD WinHttpRequest::status() const
 {
     DWORD status = 0;
     DWORD size = sizeof status;
-    WinHttpQueryHeaders(request(), WINHTTP_QUERY_STATUS_CODE | WINHTTP_QUERY_FLAG_NUMBER,
+    WinHttpQueryHeaders(handle(), WINHTTP_QUERY_STATUS_CODE | WINHTTP_QUERY_FLAG_NUMBER,
                         WINHTTP_HEADER_NAME_BY_INDEX, &status, &size, WINHTTP_NO_HEADER_INDEX);
     return status;
 }
 
-std::optional<std::string> Exchange::header(DWORD query) const
+std::optional<std::string> WinHttpRequest::header(DWORD query) const
 {
     const auto read = [&](wchar_t* buffer, DWORD& size) {
-        return WinHttpQueryHeaders(request(), query, WINHTTP_HEADER_NAME_BY_INDEX, buffer, &size,
+        return WinHttpQueryHeaders(handle(), query, WINHTTP_HEADER_NAME_BY_INDEX, buffer, &size,
                                    WINHTTP_NO_HEADER_INDEX) != 0;
     };
     DWORD size = 0;
@@ -201,26 +202,26 @@ std::optional<std::string> Exchange::header(DWORD query) const
     return bytes;
 }
 
-bool Exchange::readBody(std::string& body)
+bool WinHttpRequest::readBody(std::string& body)
 {
     // Reads no more than is there: Wine would wait in the call itself for the buffer to fill.
     for (;;) {
         if (!step(WINHTTP_CALLBACK_STATUS_DATA_AVAILABLE,
-                  [&] { return WinHttpQueryDataAvailable(request(), nullptr); }))
+                  [&] { return WinHttpQueryDataAvailable(handle(), nullptr); }))
             return false;
-        // Wine may count an error, which is -1, as a size.
-        if (steps_->size() > std::numeric_limits<int>::max())
+        // Wine can report an error, -1, as a size.
+        if (pending_->size() > std::numeric_limits<int>::max())
             return false;
-        const auto available = std::min<DWORD>(steps_->size(), sizeof steps_->piece);
+        const auto available = std::min<DWORD>(pending_->size(), sizeof pending_->piece);
         if (available == 0)
             return true;
         if (!step(WINHTTP_CALLBACK_STATUS_READ_COMPLETE, [&] {
-                return WinHttpReadData(request(), steps_->piece.data(), available, nullptr);
+                return WinHttpReadData(handle(), pending_->piece.data(), available, nullptr);
             }))
             return false;
-        if (steps_->size() == 0 || steps_->size() > available)
+        if (pending_->size() == 0 || pending_->size() > available)
             return false;
-        body.append(steps_->piece.data(), steps_->size());
+        body.append(pending_->piece.data(), pending_->size());
     }
 }
 
