@@ -6,13 +6,13 @@
 namespace Pelmora::Native
 {
 
-/// The version record of Windows.
+/// What Windows reports about its version.
 struct OsVersion {
     std::uint32_t platform; ///< 0 Win32s, 1 Windows 9x, 2 Windows NT
     std::uint32_t major;
     std::uint32_t minor;
     std::uint32_t build;
-    std::string servicePack; ///< "Service Pack 1"
+    std::string servicePack; ///< such as "Service Pack 1", or empty
 };
 
 } // namespace Pelmora::Native

@@ -11,8 +11,8 @@ using SourceLocation = std::source_location;
 
 #else
 
-/// What the library uses of std::source_location, for clang before version 16, which has none with
-/// GCC's library.
+/// The part of std::source_location that the library uses. Before version 16, clang lacks what
+/// GCC's library needs to provide the class itself.
 class SourceLocation
 {
 public:

@@ -13,8 +13,9 @@ namespace Pelmora::Native::Formatter
 namespace
 {
 
-// One pass gives what five passes, one for each character with the ampersand first, or last for
-// unescaping, would give: no entity contains another's character but the ampersand that opens it.
+// One pass gives the same result as replacing one character after the other, the ampersand first
+// (for unescaping last): apart from its ampersand, no entity contains a character that has an
+// entity.
 
 struct Entity {
     char character;
@@ -29,7 +30,8 @@ constexpr std::array<Entity, 5> entities = {{
     {'<', "&lt;"},
 }};
 
-/// The entity's number for each of the first 64 characters, among which all five are; 5 for none.
+/// The number of the entity for each of the first 64 characters, which include all five; 5 for
+/// none.
 constexpr std::array<std::uint8_t, 64> entityNumbers = [] {
     std::array<std::uint8_t, 64> numbers{};
     numbers.fill(entities.size());
@@ -47,10 +49,10 @@ const Entity* entityOf(Char character)
     return number < entities.size() ? &entities[number] : nullptr;
 }
 
-constexpr std::size_t blockLength = 32;
+constexpr std::size_t blockLength = 32; // whole vector registers, also for wide characters
 
-/// Whether none of the next `blockLength` characters has an entity; without branches, so that wide
-/// registers test many at once.
+/// Whether none of the next `blockLength` characters has an entity. Without branches, so that the
+/// compiler tests many at once in vector registers.
 template <class Char>
 bool isCleanBlock(const Char* text)
 {
@@ -64,7 +66,7 @@ bool isCleanBlock(const Char* text)
     return found == 0;
 }
 
-/// The length of the text's start that has no character to escape.
+/// The number of leading characters without an entity, up to the first that has one.
 template <class Char>
 std::size_t cleanLength(std::basic_string_view<Char> text)
 {
@@ -76,8 +78,8 @@ std::size_t cleanLength(std::basic_string_view<Char> text)
     return length;
 }
 
-/// Copies characters without entity, at most those of one machine word, and returns how many.
-/// Writes up to a word more than that. Requires: `text` is not empty.
+/// Copies leading characters that have no entity, at most one machine word, and returns how many.
+/// May write beyond them, up to the length of the word. Requires: `text` is not empty.
 template <class Char>
 std::size_t copyPlain(std::basic_string_view<Char> text, Char* out)
 {
@@ -131,7 +133,7 @@ std::basic_string<Char> escaped(std::basic_string_view<Char> text)
     return result;
 }
 
-/// The entity that stands at the start of `text`, which begins with an ampersand.
+/// The entity at the start of `text`; null if there is none.
 template <class Char>
 const Entity* entityAt(std::basic_string_view<Char> text)
 {

@@ -13,14 +13,16 @@ namespace
 
 constexpr std::uint32_t magic = 0x950412de;
 constexpr std::uint32_t swappedMagic = 0xde120495;
-constexpr std::size_t smallestFile = 29;
+constexpr std::size_t smallestFile = 29; // the header and one byte more
+// The step of the search is taken modulo the size minus 2. Smaller tables count as none.
 constexpr std::uint32_t smallestHashTable = 3;
 
 struct FileCloser {
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 
-/// The whole file; nothing when it cannot be read.
+/// The whole file; nothing when it cannot be read. Platform::readWholeFile takes UTF-16, into which
+/// a narrow path outside the code page could not be converted.
 std::optional<std::string> fileContent(const std::string& path)
 {
     const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
@@ -35,7 +37,7 @@ std::optional<std::string> fileContent(const std::string& path)
         content.resize(std::fread(content.data(), 1, content.size(), file.get()));
         return content;
     } catch (const std::bad_alloc&) {
-    } catch (const std::length_error&) { // a folder has the largest size that there is
+    } catch (const std::length_error&) { // ftell on a folder gives LONG_MAX on Linux
     }
     return std::nullopt;
 }
@@ -136,7 +138,9 @@ std::string_view Catalogue::lookup(std::string_view msgid) const noexcept
 std::string Catalogue::to_po() const
 {
     std::string po;
-    // A hostile file could name the same long string in every slot. Sound ones share some at most.
+    // A sound file names each of its strings once or a few times, so that all strings together are
+    // not much longer than the file: 16 times as long, and 1 MiB for small files, cuts none short.
+    // A hostile one could name the same long string in every slot.
     std::size_t budget = 16 * data_.size() + (std::size_t(1) << 20);
     const std::uint32_t slots = hashSize_ >= smallestHashTable ? hashSize_ : count_;
     for (std::uint32_t slot = 0; slot < slots; ++slot) {
@@ -147,7 +151,8 @@ std::string Catalogue::to_po() const
             continue;
         const auto identifier = stringAt(identifiers_, *entry - 1);
         const auto translation = stringAt(translations_, *entry - 1);
-        // What was searched for its NUL, to the end of the file where there is none.
+        // A string without a NUL was searched to the end of the file; less than that is counted
+        // as the whole file.
         const std::size_t searched =
             identifier.value_or(data_).size() + translation.value_or(data_).size();
         if (searched > budget)
@@ -164,7 +169,7 @@ std::string Catalogue::to_po() const
     return po;
 }
 
-/// The number in the file's byte order; nothing outside the file.
+/// The number at `offset`, read in the file's byte order; nothing outside the file.
 std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noexcept
 {
     std::uint32_t value = 0;
@@ -174,7 +179,7 @@ std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noe
     return swapped_ ? byteSwapped(value) : value;
 }
 
-/// The file from the string of a descriptor on; nothing where it is outside.
+/// The file from the start of the string that a descriptor names; nothing if that is outside.
 std::optional<std::string_view> Catalogue::fileFrom(std::uint64_t table,
                                                     std::uint32_t index) const noexcept
 {
@@ -186,7 +191,7 @@ std::optional<std::string_view> Catalogue::fileFrom(std::uint64_t table,
     return std::string_view(data_).substr(*offset);
 }
 
-/// The string of a descriptor, up to its NUL; nothing where the file ends before.
+/// The string that a descriptor names, up to its NUL; nothing if the file ends before.
 std::optional<std::string_view> Catalogue::stringAt(std::uint64_t table,
                                                     std::uint32_t index) const noexcept
 {
@@ -197,7 +202,8 @@ std::optional<std::string_view> Catalogue::stringAt(std::uint64_t table,
     return rest->substr(0, length);
 }
 
-/// Looks at no more of the file than `msgid` is long: many slots may name one long string.
+/// Compares only as much of the file as `msgid` is long: in a hostile file, every slot may name the
+/// same long string.
 bool Catalogue::isIdentifier(std::uint32_t index, std::string_view msgid) const noexcept
 {
     const auto rest = fileFrom(identifiers_, index);
@@ -235,7 +241,7 @@ std::optional<std::uint32_t> Catalogue::searchHashed(std::string_view msgid) con
     const std::uint32_t hash = hashOf(msgid);
     const std::uint32_t step = 1 + hash % (hashSize_ - 2);
     std::uint32_t slot = hash % hashSize_;
-    // A table without an empty slot would otherwise be searched for ever.
+    // Counted, because a table without an empty slot would be searched for ever.
     for (std::uint32_t tried = 0; tried < hashSize_; ++tried) {
         const auto entry = numberAt(hashTable_ + std::uint64_t(slot) * 4);
         if (!entry || *entry == 0)

@@ -11,33 +11,32 @@
 namespace Pelmora::Native
 {
 
-/// Whether a path ends in ".mo", in upper or lower case.
+/// Whether a path ends in ".mo", in any mixture of upper and lower case.
 PELMORA_API bool endsInMo(std::string_view path) noexcept;
 
 /// One compiled message catalogue in the ".mo" format of GNU gettext (its manual, "The Format of
 /// GNU MO Files"), of either byte order, with or without hash table. The file is held whole and
-/// searched in place; contexts and plural forms are not known, so that of plural forms the first is
-/// found.
+/// searched in place. Contexts are not known, and of plural forms only the first is found.
 ///
-/// The file is not trusted: entries that lead out of it are not found, and every search ends. A
-/// loaded catalogue may be searched by several threads at once, while nobody loads.
+/// The file is not trusted: entries that lead out of it are not found, and every search ends.
+/// Several threads may search a loaded catalogue at once, as long as none loads it again.
 class PELMORA_API Catalogue
 {
 public:
-    /// Reads the file, with ".mo" appended where the name does not end so. False, and an empty
-    /// catalogue, when it cannot be read, has fewer than 29 bytes or is no such file.
+    /// Reads the file, with ".mo" appended to a path that does not end in it. The path is narrow
+    /// text as the C library takes it. Returns false and leaves the catalogue empty if the file
+    /// cannot be read, has fewer than 29 bytes or does not begin as a catalogue.
     bool load(std::string path);
 
-    /// The translation as text of the ANSI code page; empty when there is none.
+    /// The translation, read as text of the ANSI code page; empty when there is none.
     GString translate(std::string_view msgid) const;
 
-    /// The translation's bytes in the catalogue's own encoding, valid while the catalogue is
-    /// neither loaded again nor destroyed; empty when there is none. `msgid` ends at its first NUL.
+    /// The translation's bytes in the catalogue's own encoding; empty when there is none. They are
+    /// valid until the catalogue is loaded again or destroyed. `msgid` ends at its first NUL.
     std::string_view lookup(std::string_view msgid) const noexcept;
 
-    /// Every entry as PO source, in the order of the hash table. Requires for a sensible result:
-    /// the file has a hash table; without one, as `msgfmt --no-hash` makes it, it is not to be
-    /// dumped.
+    /// Every entry as PO source, in the order of the hash table. From a file without a hash table,
+    /// as `msgfmt --no-hash` makes it, the result means nothing.
     std::string to_po() const;
 
 private:
@@ -56,7 +55,8 @@ private:
     bool swapped_ = false;
     std::uint32_t count_ = 0;
     std::uint32_t hashSize_ = 0;
-    std::uint32_t identifiers_ = 0; ///< offsets of the three tables
+    // Offsets of the three tables.
+    std::uint32_t identifiers_ = 0;
     std::uint32_t translations_ = 0;
     std::uint32_t hashTable_ = 0;
 };

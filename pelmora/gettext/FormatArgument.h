@@ -9,23 +9,25 @@
 #include <type_traits>
 #include <variant>
 
+// Internal to GString, whose templates make these arguments.
+
 namespace Pelmora::Native
 {
 
-/// One argument of a printf-style format with its type, so that a format that does not fit its
-/// arguments can be told from one that does. Refers to narrow text without copying it: lives no
-/// longer than that. Null pointers to text stand for "(null)".
+/// One argument of a printf-style format together with its type, so that a conversion that does not
+/// fit its argument is noticed. Narrow text is referred to, not copied, and must outlive this
+/// object. A null pointer to text stands for "(null)".
 class FormatArgument
 {
 public:
-    /// An integer of at least 32 bits, as promotion makes it.
+    /// An integer as it is after promotion, of at least 32 bits.
     struct Integer {
         std::uint64_t bits; ///< sign-extended for a signed type
         bool is64;
     };
     using Value = std::variant<Integer, double, std::string_view, WideString, const void*>;
 
-    // NOLINTBEGIN(google-explicit-constructor): an argument stands for its value
+    // NOLINTBEGIN(google-explicit-constructor): an argument is its value
     template <class T>
     requires std::integral<T> || std::is_enum_v<T> FormatArgument(T value)
         : value_(Integer{static_cast<std::uint64_t>(value), sizeof(T) > sizeof(std::int32_t)})

@@ -31,7 +31,7 @@ struct LanguageRow {
     unsigned int identifier;
 };
 
-/// "us" and "uk" are the applications' names of the two Englishes.
+/// "us" and "uk" are what the applications call American and British English.
 constexpr LanguageRow languages[] = {
     {"en", 0x409}, {"us", 0x409}, {"uk", 0x809}, {"da", 0x406}, {"de", 0x407}, {"es", 0x40a},
     {"fr", 0x40c}, {"hi", 0x439}, {"it", 0x410}, {"ja", 0x411}, {"kn", 0x44b}, {"ko", 0x412},
@@ -89,7 +89,7 @@ bool isUtf8(const Catalogue& catalogue)
     return header.find("charset=utf-8") != std::string::npos;
 }
 
-/// Still there when static objects are destroyed.
+/// Never destroyed, because destructors of static objects may still translate.
 TextLocale& processLocale()
 {
     static NeverDestroyed<TextLocale> locale;
@@ -156,8 +156,7 @@ unsigned int TextLocale::lang_id() const noexcept
     return processDefaultLanguage;
 }
 
-GString
-translate_from_catalogue(std::string msgid) // NOLINT: by value, as hosts' translators take it
+GString translate_from_catalogue(std::string msgid) // NOLINT: by value, as a Translator takes it
 {
     const Catalogue* catalogue = gettext_locale.catalogue();
     if (catalogue == nullptr)

@@ -10,15 +10,15 @@
 namespace Pelmora::Native
 {
 
-/// Where translations come from: called with a message identifier, answers with the text, or with
-/// an empty one when it has none.
+/// The host's source of translations: returns the text for a message identifier, or an empty text
+/// when it has none.
 using Translator = GString (*)(std::string msgid);
 
 /// The active language: its catalogue, its code, and the translator that the host installs. There
 /// is one for the process, `gettext_locale`, which lives as long as the process does.
 ///
-/// `init`, `set_translator` and `set_log_missing` are called before other threads translate; the
-/// other operations only read.
+/// Requires: `init`, `set_translator` and `set_log_missing` are called before other threads
+/// translate. The other operations only read, and may run in several threads at once.
 class PELMORA_API TextLocale
 {
 public:
@@ -26,27 +26,27 @@ public:
     TextLocale(const TextLocale&) = delete;
     TextLocale& operator=(const TextLocale&) = delete;
 
-    /// Makes `path`, a catalogue's file or a bare language code, the language: "de" and
-    /// "lang/de.mo" both give the language "de" and load its catalogue. A file that cannot be
-    /// loaded leaves the texts untranslated and is not reported. Keeps translator and log switch.
-    /// Throws std::out_of_range when fewer than two characters stand before ".mo".
+    /// Sets the language and loads its catalogue. `path` is a catalogue's file or a bare language
+    /// code: "lang/de.mo" and "de" both give the language "de". If the file cannot be loaded, texts
+    /// stay untranslated, and nothing reports it. Translator and log switch are kept. Throws
+    /// std::out_of_range if fewer than two characters stand before ".mo".
     void init(const std::string& path);
 
-    /// Null for none. Without a translator nothing is translated, even with a catalogue; a host
-    /// without wishes of its own installs `translate_from_catalogue`.
+    /// Null removes the translator. Without one nothing is translated, even when a catalogue is
+    /// loaded; most hosts install `translate_from_catalogue`.
     void set_translator(Translator translator) noexcept { translator_ = translator; }
 
     /// Whether texts that are not translated are reported in the error log; off at first.
     void set_log_missing(bool report) noexcept { logMissing_ = report; }
 
-    /// What the translator says, or `msgid` itself as text of the ANSI code page. Only the
-    /// translator is asked, on purpose: a loaded catalogue merely makes untranslated texts
-    /// reportable when there is no translator. `codePage` is that of narrow translations and has no
-    /// effect so far. An exception that the translator throws passes through.
+    /// The translator's answer, or `msgid` itself, read as text of the ANSI code page. Only the
+    /// translator is asked, on purpose. A loaded catalogue merely makes untranslated texts
+    /// reportable when there is no translator. `codePage` has no effect. What the translator throws
+    /// passes through.
     GString translate(const std::string& msgid, unsigned int codePage) const;
 
-    /// Translates a text without its tag: one to three characters, a letter and letters or digits,
-    /// before '|', as in "r|mg/dL". Null gives an empty text.
+    /// Translates a text without its tag, as in "r|mg/dL": a letter and up to two letters or digits
+    /// before a '|'. Null gives an empty text.
     GString tr(const char* text) const;
 
     bool initialised() const noexcept { return initialised_; }
@@ -57,15 +57,16 @@ public:
     /// The Windows code page of the language: 932, 949 and 936 for "ja", "ko" and "zh", or 1252.
     unsigned int code_page() const noexcept;
     bool uses_non_latin_code_page() const noexcept;
-    /// The name of its encoding in markup and mail, "iso-8859-1" for most.
+    /// The name that this code page has in markup and mail, such as "iso-8859-1".
     const char* charset() const noexcept;
-    /// The Windows language identifier, 0x400 for a language that is not known.
+    /// The Windows language identifier; 0x400, the process's default, for an unknown language.
     unsigned int lang_id() const noexcept;
 
     /// The catalogue in use; null when there is none.
     const Catalogue* catalogue() const noexcept { return catalogue_.get(); }
 
-    /// The code page of its text: UTF-8 where its header says so, otherwise that of the language.
+    /// The code page of the catalogue's text: UTF-8 if its header says so, otherwise the
+    /// language's.
     unsigned int catalogue_code_page() const noexcept
     {
         return catalogueIsUtf8_ ? utf8CodePage : code_page();
@@ -87,8 +88,8 @@ private:
 /// The process's language.
 extern PELMORA_API TextLocale& gettext_locale;
 
-/// The obvious translator: answers from the catalogue of `gettext_locale`, whose text is read in
-/// the encoding that its header names, if that is UTF-8, or in the language's code page.
+/// The translator that most hosts install: looks the identifier up in the catalogue of
+/// `gettext_locale` and reads the translation in `catalogue_code_page`.
 PELMORA_API GString translate_from_catalogue(std::string msgid);
 
 } // namespace Pelmora::Native

@@ -20,7 +20,7 @@ namespace
 constexpr std::u16string_view falseText = u"false";
 constexpr std::u16string_view trueText = u"true";
 
-/// Whether ASCII text is the same bytes in the code page; not so in UTF-7 or EBCDIC, for instance.
+/// Whether ASCII text has the same bytes in the code page, as it has not in UTF-7 or EBCDIC.
 bool containsAscii(unsigned int codePage)
 {
     return codePage == ansiCodePage || codePage == utf8CodePage ||
@@ -38,8 +38,8 @@ std::basic_string_view<Char> upToNul(std::basic_string_view<Char> text)
     return text.substr(0, text.find(Char(0)));
 }
 
-/// The converter's buffer as the result. That it was too small is a mistake of this file, shown in
-/// debug builds only; what fitted is better than nothing.
+/// The converter's buffer, up to its NUL. A buffer that is too small is a mistake of this file;
+/// debug builds stop, others return what fitted.
 template <class Char>
 std::basic_string<Char> takenResult(Platform::ConversionStatus status,
                                     std::basic_string<Char>&& buffer)
@@ -53,7 +53,8 @@ std::basic_string<Char> takenResult(Platform::ConversionStatus status,
 
 WideString widened(std::string_view narrow, unsigned int codePage)
 {
-    const std::size_t room = 2 * narrow.size(); // also for text that begins with its NUL
+    // Calculated before the cut, so that a text that begins with its NUL has room for it.
+    const std::size_t room = 2 * narrow.size();
     narrow = upToNul(narrow);
     if (containsAscii(codePage) && asciiPrefix(narrow) == narrow.size())
         return {narrow.begin(), narrow.end()};
@@ -68,8 +69,7 @@ bool equals(WideView text, std::u16string_view other)
     return std::equal(text.begin(), text.end(), other.begin(), other.end());
 }
 
-// What the C library of Windows takes for white space and decimal digits in `wcstol`, in any
-// locale.
+// The white space and decimal digits that `wcstol` of the Windows C library accepts in any locale.
 constexpr std::u16string_view whiteSpace =
     u"\t\n\v\f\r \u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A"
     u"\u2028\u2029\u202F\u205F\u3000";
@@ -98,8 +98,7 @@ GString mapped(WideString text, Mapping mapping)
     return text;
 }
 
-/// The narrow buffers that are lent to C interfaces, each form of conversion with a ring of its
-/// own.
+/// The narrow buffers that `to_temp_c_str` lends, in one ring for each of its two forms.
 class TemporaryStrings
 {
 public:
@@ -228,7 +227,7 @@ bool GString::is_digit(WideChar unit) noexcept
 
 std::int32_t GString::to_long(bool* ok) const noexcept
 {
-    // wcstol itself is no help: on Linux it takes other digits, and its long has 64 bits.
+    // On Linux, wcstol accepts other digits, and its result has 64 bits.
     WideView rest(text_);
     while (!rest.empty() && isSkipped(rest.front()))
         rest.remove_prefix(1);

@@ -19,20 +19,20 @@
 namespace Pelmora::Native
 {
 
-/// What a text literal of UTF-16 units is made of: u"..." everywhere, L"..." on Windows too.
+/// The unit of a UTF-16 literal: u"..." everywhere, and L"..." on Windows too.
 template <class T>
 concept Utf16Unit = std::same_as<T, WideChar> || std::same_as<T, char16_t>;
 
-/// The text of everything that is shown to a user: UTF-16 with value semantics. Each unit counts as
-/// one character, a supplementary character as the two units of its surrogate pair; nothing is ever
-/// normalised.
+/// The text type of everything that is shown to a user: UTF-16 with value semantics. Each unit
+/// counts as one character, and a supplementary character as two, those of its surrogate pair. Text
+/// is never normalised.
 ///
-/// Narrow text always comes with a Windows code page. Conversions by code page never fail:
-/// characters without a counterpart become the code page's best fit or its default character, and
-/// an unknown code page gives an empty text. On Linux, only 932, 936, 949 and 1252 have best fits,
-/// and the user-defined characters of 936 and 949 have no counterparts. Conversions end at the
-/// first NUL, except to code page 65001, which is `to_utf8`, and those from and to UTF-8 by name;
-/// they may run in several threads at once. Pointers to text are never null.
+/// Narrow text always comes with the number of a Windows code page. Conversions by code page never
+/// fail: a character without a counterpart becomes its best fit or the code page's default
+/// character, and an unknown code page gives an empty text. On Linux, only 932, 936, 949 and 1252
+/// have best fits, and the user-defined characters of 936 and 949 have no counterparts. Conversions
+/// end at the first NUL; `from_utf8`, `to_utf8` and `to_narrow(65001)` go on. They may run in
+/// several threads at once. Pointers to text must not be null.
 class PELMORA_API GString
 {
 public:
@@ -57,12 +57,12 @@ public:
     /// From narrow text in a code page.
     explicit GString(std::string_view narrow, unsigned int codePage = ansiCodePage);
 
-    /// From UTF-8 as the library's own codec reads it: one unit a character, so that surrogates are
-    /// accepted and a sequence of four bytes is an error. Throws the C string (`const char*`)
-    /// "UTF8 error: source too large" for anything that is not well-formed.
+    /// From UTF-8, one unit for each sequence: encoded surrogates are accepted, and a sequence of
+    /// four bytes is an error. Throws the C string (`const char*`) "UTF8 error: source too large"
+    /// for that and for anything malformed.
     static GString from_utf8(std::string_view utf8);
 
-    /// The text in a code page, up to its first NUL; for 65001 `to_utf8`, NULs and all.
+    /// The text in a code page, up to its first NUL; for 65001 the same as `to_utf8`.
     std::string to_narrow(unsigned int codePage = ansiCodePage) const;
 
     /// UTF-8 of each unit on its own, so that a surrogate pair becomes six bytes, which `from_utf8`
@@ -73,12 +73,12 @@ public:
     const WideChar* to_w_str() const noexcept { return text_.c_str(); }
 
     /// A NUL-terminated narrow copy for a C interface, in the ANSI code page or in a given one.
-    /// The pointers come from two rings of 16 buffers, one for each form: each stays valid for 15
-    /// further calls of the same form by any thread, and also while the process ends.
+    /// Each form has a ring of 16 buffers, so that a pointer stays valid during 15 further calls of
+    /// the same form by any thread. Destructors of static objects may call both.
     const char* to_temp_c_str() const;
     const char* to_temp_c_str(unsigned int codePage) const;
 
-    /// Each unit mapped by the C library's `towlower` and `towupper` in the current C locale.
+    /// Maps each unit by `towlower` or `towupper` of the C library, in the current C locale.
     GString to_lower() const;
     GString to_upper() const;
 
@@ -89,20 +89,20 @@ public:
     /// Exactly '0' to '9', in every locale.
     static bool is_digit(WideChar unit) noexcept;
 
-    /// The decimal number at the start, as `wcstol` on Windows reads it, in every locale: Unicode's
-    /// white space, a sign, decimal digits, also full-width ones and those of sixteen more scripts;
-    /// clamped to 32 bits; 0 where there is no number. `ok`, when given, says whether the text was
-    /// consumed to its end, which the empty text is.
+    /// The decimal number at the start, read as `wcstol` on Windows reads it, in every locale:
+    /// white space of Unicode, a sign, and decimal digits, also full-width ones and those of
+    /// sixteen more scripts. It is clamped to 32 bits; 0 stands for no number. `ok`, if given, is
+    /// set to whether the whole text was read, which is true of the empty text.
     std::int32_t to_long(bool* ok = nullptr) const noexcept;
 
     /// "true" or "false".
     static GString from_bool(bool value);
 
-    /// True for exactly "true"; `ok`, when given, says whether the text was "true" or "false".
+    /// True for exactly "true". `ok`, if given, is set to whether the text is "true" or "false".
     bool to_bool(bool* ok = nullptr) const noexcept;
 
-    /// The number by a printf-style narrow format with one conversion for it, cut after 50 bytes.
-    /// Length modifiers are allowed and not needed: from_number(milliseconds, "%d").
+    /// The number in a printf-style format with one conversion, such as "%d ms"; narrow text of the
+    /// ANSI code page, cut after 50 bytes. Length modifiers are allowed, but not needed.
     template <class Number>
     requires std::integral<Number> || std::same_as<Number, double>
     static GString from_number(Number value, std::string_view format)
@@ -110,11 +110,11 @@ public:
         return fromArgument(value, format);
     }
 
-    /// The arguments by a printf-style format: the flags, width, precision (also as *) and
+    /// The arguments in a printf-style format: the flags, width, precision (also as *) and
     /// conversions d i u o x X c s S p f F e E g G a A of C. %s takes narrow text of the ANSI code
-    /// page and wide text alike, %c one UTF-16 unit. A conversion that its argument does not fit,
-    /// or that has none, is written as it stands, so that a mistake in a translated format is seen
-    /// and harms nothing. More than 65,535 units are cut there, and one NUL unit follows.
+    /// page and wide text alike, %c one UTF-16 unit. A conversion without an argument of its kind
+    /// is written as it stands, so that a mistake in a translated format is seen and harms nothing.
+    /// A longer result is cut after 65,535 units, and one NUL unit follows.
     template <class... Arguments>
     static GString format(const GString& format, const Arguments&... arguments)
     {
@@ -122,7 +122,8 @@ public:
         return formatted(format.text_, list);
     }
 
-    /// The character that stands for unencodable ones in the ANSI code page, as a 16-bit value.
+    /// What replaces a character that the ANSI code page lacks: one byte in the low eight bits, the
+    /// second, if there is one, in the high eight.
     static char16_t default_char() noexcept;
 
     const WideString& text() const noexcept { return text_; }

@@ -13,12 +13,12 @@ namespace Pelmora::Native
 namespace
 {
 
-/// Wider fields than any buffer of the callers are cut by it anyway.
+/// No caller's buffer is larger, so that a wider field is cut to the buffer anyway.
 constexpr int largestField = 65536;
 
 constexpr std::string_view conversionLetters = "diuoxXcCsSpfFeEgGaA";
 
-/// Walks over the arguments; each is used at most once.
+/// Hands out the arguments in order, each once.
 class ArgumentQueue
 {
 public:
@@ -83,7 +83,7 @@ private:
         return 0;
     }
 
-    /// Digits or *, limited to what can matter.
+    /// A number in digits or, for *, the next argument; limited to the largest field.
     std::optional<int> number()
     {
         if (takeAnyOf("*") != 0) {
@@ -101,7 +101,7 @@ private:
         return value;
     }
 
-    /// The arguments know their sizes: only h and hh, which cut numbers, say something new.
+    /// Arguments know their sizes. Only h and hh, which cut a number, have an effect.
     void skipLengthModifiers(Conversion& result)
     {
         while (const char modifier = takeAnyOf("hlLqjztwI"))
@@ -145,7 +145,7 @@ std::basic_string<Char> padded(const Conversion& conversion, std::basic_string<C
     return text;
 }
 
-/// The argument as the conversion asks, or nothing when the two do not fit.
+/// The converted argument; nothing when the conversion does not fit its type.
 template <class Char>
 std::optional<std::basic_string<Char>> convertedArgument(const Conversion& conversion,
                                                          const FormatArgument& argument)
@@ -178,7 +178,7 @@ std::optional<std::basic_string<Char>> convertedArgument(const Conversion& conve
     return std::nullopt;
 }
 
-/// Takes what fits and notices when something did not.
+/// Keeps what fits into the buffer, and knows whether everything did.
 template <class Char>
 class BoundedOutput
 {

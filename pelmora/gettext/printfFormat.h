@@ -6,8 +6,8 @@
 #include <span>
 #include <string_view>
 
-// The printf-style formatter behind GString::format and GString::from_number. Internal to the
-// gettext folder.
+// The printf-style formatter of GString::format and GString::from_number. Internal to the gettext
+// folder.
 
 namespace Pelmora::Native
 {

@@ -14,12 +14,12 @@ namespace Pelmora::Native
 namespace
 {
 
-// The C libraries differ in flags that have no meaning for a conversion, in the sign of a NaN and
-// in conversion a. They agree on decimal digits, which is all that they are asked for.
+// The C libraries agree on decimal digits, so snprintf is asked for these alone. They differ in
+// flags that mean nothing to a conversion, in the sign of a NaN and in conversion a.
 
 constexpr int defaultPrecision = 6;
 
-/// A printed number before its field is filled: what comes before the zeros of flag 0, and after.
+/// A number in two parts, between which flag 0 puts its zeros.
 struct Parts {
     std::string prefix;
     std::string digits;
@@ -87,8 +87,8 @@ std::string printedDigits(const Conversion& conversion, int precision, char lett
     return text;
 }
 
-/// Conversion g with all its digits, by the rule of the C language. glibc drops some of them where
-/// a value such as 999999.95 is rounded up to a power of ten.
+/// Conversion #g by the rule of the C language. glibc drops digits of a value that is rounded up to
+/// a power of ten, such as 999999.95.
 std::string generalDigits(const Conversion& conversion, double value)
 {
     const int precision = std::max(conversion.precision.value_or(defaultPrecision), 1);
@@ -99,10 +99,10 @@ std::string generalDigits(const Conversion& conversion, double value)
     return printedDigits(conversion, precision - 1 - exponent, 'f', value);
 }
 
-/// Conversion a without its 0x. The C libraries round halves differently.
+/// Conversion a without its 0x, made here because the C libraries round halves differently.
 std::string hexadecimalDigits(const Conversion& conversion, double value)
 {
-    constexpr std::size_t exactLength = 32;
+    constexpr std::size_t exactLength = 32; // 1.fffffffffffffp-1022 has 21
     const auto precision = static_cast<std::size_t>(conversion.precision.value_or(0));
     std::string text(exactLength + precision, '\0');
     char* const end = text.data() + text.size();

@@ -5,7 +5,7 @@
 namespace Pelmora::Native
 {
 
-/// What a log is to those who write to it. Each log says which threads may.
+/// What a writer needs to know of a log. Each log says which threads may write to it.
 class PELMORA_API LogInterface
 {
 public:

@@ -21,7 +21,7 @@ namespace Pelmora::Native
 namespace
 {
 
-/// What lives as long as the process, so that destructors of static objects may still log.
+/// Never destroyed, because destructors of static objects may still log.
 struct LogState {
     LogSettings settings;
     std::string temporaryFolder;
@@ -51,8 +51,8 @@ std::string logPath()
     return folder + name;
 }
 
-/// A translated label; a translator that throws must not take the log with it. The labels need no
-/// memory as they stand, so that the log begins also when there is none.
+/// A translated label, or the label itself if the translator throws or memory runs out. The labels
+/// are so short that they need no memory of their own.
 std::string label(const char* text)
 {
     try {
@@ -76,7 +76,7 @@ public:
     std::string_view text() const { return {buffer_.data(), length_}; }
 
 private:
-    std::array<char, 400> buffer_; // DBL_MAX as "%f" has 309 digits before the point.
+    std::array<char, 400> buffer_; // -DBL_MAX as "%f" has 317 characters
     std::size_t length_;
 };
 
@@ -102,23 +102,23 @@ LogStream::LogStream() : path_(logPath()), process_(Platform::processId())
 LogStream::~LogStream()
 {
     state().destroyedOnce = true;
-    // When a forked child ends, its parent's log goes on.
+    // The log of a forked child is its parent's, which goes on.
     if (process_ != Platform::processId())
         return;
-    // A translator may end the program while it is asked for a label.
+    // The program may end inside a translator that is asked for a label.
     endComposing();
     *this << "-eof-" << endl;
-    // The file is left open: what `file()` gave stays valid until the process ends.
+    // The file stays open, because what `file()` returned is valid until the process ends.
     if (state().settings.show_in_notepad)
         Platform::openInNotepad(path_);
 }
 
 /// Writes the header. Translating its labels may itself log; that output waits in `pending_` until
-/// the header is written. Without memory the header lacks what needs some.
+/// the header is written. If memory runs out, the header lacks some parts.
 void LogStream::begin()
 {
     if (file_ != nullptr) {
-        const std::string date = label("Date:"); // one after the other: each may report
+        const std::string date = label("Date:"); // in this order, because each may log
         const std::string time = label(" Time:");
         composesHeader_ = false;
         writeHeader(date, time);
@@ -270,11 +270,11 @@ LogStream& get_log()
 {
     std::unique_ptr<LogStream>& instance = state().instance;
     if (instance == nullptr) {
-        // In place before its header is written, so that whoever logs meanwhile finds this one.
+        // Stored before its header is written, so that a translator that logs finds it.
         instance.reset(new LogStream());
         // The handler and the log's state must outlive the last unload.
         Platform::keepLoaded();
-        // atexit cannot be relied on during exit: a log that is made then gets no end marker.
+        // atexit cannot be relied on during exit, so a log that is made then gets no end marker.
         if (!state().destroyedOnce)
             static_cast<void>(std::atexit(endLog));
         instance->begin();

@@ -12,32 +12,30 @@
 namespace Pelmora::Native
 {
 
-/// The process's error log, a text file in the temporary folder, which is "errors.txt" there unless
-/// `log_settings` says otherwise. `get_log` makes it on first use: the file is begun anew, with the
-/// date, the running system and a separator. It ends with "-eof-" at the end of the process; what
-/// is logged after that, by destructors of static objects, goes to the same file after a second
-/// header with a warning, and no further end. On Windows, the end comes after the destructors of
-/// the program's own static objects. A forked child writes no end.
+/// The process's error log: the text file "errors.txt" in the temporary folder, unless
+/// `log_settings` says otherwise. `get_log` makes it on first use. It truncates the file and writes
+/// a header with the date, the running system and a separator. At the end of the process it writes
+/// "-eof-"; on Windows after the destructors of the program's own static objects. What static
+/// objects log after that goes to the same file, after a second header with a warning and without
+/// another "-eof-". A forked child writes no "-eof-".
 ///
-/// Each item is in the file when its insertion returns, so that the file is complete also after a
-/// crash. It goes to the end of the file: of several programs that log at once, the last one to
-/// start begins the file anew, and from then on no line is written over. Narrow text is written as
-/// it is, in the ANSI code page by convention. Where memory runs out, parts of the header may be
-/// missing.
+/// Each item is in the file when its insertion returns, so that the file is complete even after a
+/// crash. Items are appended: if several programs log to one file, each one that starts truncates
+/// it, but none overwrites another's lines. Narrow text is written as it is, by convention in the
+/// ANSI code page. If memory runs out, parts of the header may be missing.
 ///
-/// When the file cannot be opened, "unable to open " and its path are printed on standard output
+/// If the file cannot be opened, "unable to open " and its path are printed on standard output
 /// without a line end, and everything that is logged is dropped without an error.
 ///
 /// Once there is a log, the library stays loaded until the process ends.
 ///
-/// There is no lock: lines of several threads may mix item by item, and the first use comes from
-/// one thread.
+/// There is no lock. Items of several threads may mix. Requires: the first use is by one thread.
 class PELMORA_API LogStream final : public LogInterface
 {
 public:
     ~LogStream() override;
 
-    /// The bytes up to the NUL.
+    /// Writes the text as it is.
     void write(const char* text) override;
 
     /// The open file, or null.
@@ -76,10 +74,11 @@ private:
 
     std::FILE* file_ = nullptr;
     std::string path_;
-    // Nothing here reads the two markers; they belong to the layout. Every write makes them equal.
+    // Stream, path and markers are the object's layout, which stays. Every write makes the markers
+    // equal; the library never reads them.
     std::int32_t marker_ = 0;
     std::atomic<std::int32_t> writtenMarker_ = 0;
-    std::uint32_t process_; ///< the one that ends the log
+    std::uint32_t process_; ///< the one that made the log, and ends it
     bool composesHeader_ = true;
     std::string pending_; ///< what was logged while the header was composed
 };
@@ -90,13 +89,13 @@ PELMORA_API LogStream& endl(LogStream& log);
 /// The process's log, made when there is none.
 PELMORA_API LogStream& get_log();
 
-/// How the log is made. Changes take effect when it is made the next time: set them before the
-/// first use.
+/// How the log is made. Set before the first use; later changes have no effect until the log is
+/// made again.
 struct LogSettings {
-    /// In the temporary folder, unless the second character is a ':'; then a path of its own.
+    /// A name in the temporary folder or, if its second character is a ':', a whole path.
     std::string file_name = "errors.txt";
-    std::string header_text;      ///< written below the header with a separator, when not empty
-    bool append_mode = false;     ///< keep what an earlier process left in the file
+    std::string header_text;      ///< written after the header, with a separator, unless empty
+    bool append_mode = false;     ///< appends to the file of an earlier process
     bool show_in_notepad = false; ///< see `set_show_in_notepad`
 };
 

@@ -13,7 +13,7 @@ namespace
 
 constexpr std::uint32_t platformWindowsNt = 2;
 
-/// Whether a version stands in a range of the table, both ends included.
+/// Both ends included.
 struct Range {
     std::uint32_t first;
     std::uint32_t last;
@@ -33,14 +33,14 @@ struct NameRow {
     Range major = any;
     Range minor = any;
     bool appendsNumbers = false;
-    const char* revisions = ""; ///< second characters of the service pack that stand for a revision
+    const char* revisions = ""; ///< each marks a revision as the service pack's second character
     const char* revisionName = "";
 };
 
 constexpr bool withNumbers = true;
 constexpr bool alone = false;
 
-/// The first row that fits gives the name.
+/// The first row that fits counts.
 constexpr NameRow names[] = {
     {"Win32s", 0},
     {"Windows 95", 1, exactly(4), exactly(0), alone, "CB", " OSR2"},

@@ -15,8 +15,9 @@ namespace Pelmora::Native
 {
 
 /// The elements of a unit in the order in which they were added; duplicates are allowed. Up to
-/// eight elements are held inside the object, so that the units of everyday use never allocate;
-/// longer lists move to the heap whole. Any change ends the life of iterators and references.
+/// eight elements, more than units of everyday use have, are held inside the object without
+/// allocating; a longer list is held on the heap whole. Any change invalidates iterators and
+/// references.
 class ElementList
 {
 public:
@@ -72,13 +73,13 @@ public:
             few_[fewSize_++] = element;
             return;
         }
-        const UnitElement kept = element; // may stand in the list that moves
+        const UnitElement kept = element; // may be an element of this list, which moves
         if (many_ == nullptr)
             many_ = std::make_unique<Heap>(begin(), end());
         many_->push_back(kept);
     }
 
-    /// Drops every element from position `count` on. Requires: count <= size().
+    /// Removes every element from position `count` on. Requires: count <= size().
     void truncate(std::size_t count)
     {
         if (many_ == nullptr)
@@ -99,7 +100,7 @@ private:
     std::array<UnitElement, 8> few_ = {unused, unused, unused, unused,
                                        unused, unused, unused, unused};
     std::size_t fewSize_ = 0;
-    std::unique_ptr<Heap> many_; ///< all elements, once they did not fit `few_`
+    std::unique_ptr<Heap> many_; ///< all elements, once they no longer fit into `few_`
 };
 
 } // namespace Pelmora::Native

@@ -21,7 +21,7 @@ std::int32_t wrappedNegation(std::int32_t a)
     return static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(a));
 }
 
-/// The ISO forms of the elements as an ordered set: equal ones collapse into one.
+/// The ISO forms of the elements, sorted and without duplicates.
 ElementList isoSet(Elements elements)
 {
     ElementList set;
@@ -46,7 +46,7 @@ ElementList isoElements(Elements elements)
     return result;
 }
 
-/// For each kind the place of its ISO kind in a number to the base 64.
+/// For each kind, the value of its ISO kind's digit in a number of base 64.
 constexpr std::array<std::int64_t, kindRows.size()> isoPlaces = [] {
     std::array<std::int64_t, kindRows.size()> places{};
     std::int64_t next = 1;
@@ -66,7 +66,7 @@ std::int64_t isoPlace(const UnitElement& element) noexcept
     return isoPlaces[kindIndex(element.unitType)];
 }
 
-/// Whether the elements' ISO forms are equal one by one, as of mg/min and g/hr.
+/// Whether the ISO forms of the elements are equal in pairs, as those of mg/min and g/hr are.
 bool isoFormsAreEqualInOrder(Elements a, Elements b) noexcept
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
@@ -75,8 +75,9 @@ bool isoFormsAreEqualInOrder(Elements a, Elements b) noexcept
                       });
 }
 
-/// One number for the elements of the ISO form, equal for equal forms: its digits to the base 64
-/// are the sums of exponents, from -6 to 6. Nothing for units whose sums could be larger.
+/// Packs the ISO form into one integer, a digit of base 64 for each ISO kind. Distinct exponents of
+/// at most 3 sum to 6 at most, so digits never carry. Nothing for larger exponents and for longer
+/// units than `ElementList` holds in place.
 std::optional<std::int64_t> isoSignature(Elements elements) noexcept
 {
     constexpr std::size_t mostElements = 8;

@@ -11,10 +11,10 @@ struct ScaledUnit;
 
 /// A composite unit: the product of its elements, such as mg · kg⁻¹ · min⁻¹. The empty list is the
 /// dimensionless unit. The order of the elements is kept, since text and normalisation depend on
-/// it. A plain value that owns its list; no operation but `removeUnitType` changes it, none
-/// but those that make texts allocates for up to eight elements, and none throws unless memory runs
-/// out. Sums of exponents and negated exponents wrap around at 32 bits. Several threads may read
-/// one unit at once while nobody writes it.
+/// it. A plain value that owns its list. Only `removeUnitType` changes it. For up to eight elements
+/// only the operations that make texts allocate, and none throws unless memory runs out. Sums of
+/// exponents and negated exponents wrap around at 32 bits. Several threads may read a unit at once,
+/// as long as none writes it.
 struct PELMORA_API Unit {
     ElementList elements;
 
@@ -24,28 +24,29 @@ struct PELMORA_API Unit {
     /// A copy of the list.
     ElementList getElementList() const { return elements; }
 
-    /// This list followed by the other's; nothing is merged or reordered.
+    /// The product: these elements, then the other's. Nothing is merged or reordered.
     Unit mul(const Unit& other) const;
 
-    /// Every exponent negated.
+    /// The unit with every exponent negated.
     Unit inverted() const;
 
-    /// Elements of the same dimension merged into one in the ISO kind of the first, or cancelled;
-    /// elements that stand alone keep prefix and kind. mg · kg⁻¹ of the same kind gives 1e-6 and
-    /// the empty unit, mL · hr⁻¹ stays as it is with the factor 1.
+    /// Merges elements of the same dimension into one of the ISO kind, in the place of the first,
+    /// or cancels them. Other elements keep prefix and kind. mg · kg⁻¹ gives the factor 1e-6 and
+    /// the empty unit; mL · hr⁻¹ stays as it is, with the factor 1.
     ScaledUnit getReduced() const;
 
-    /// The canonical form for comparison: ISO kinds only, sorted by kind, one element a kind, none
-    /// with exponent 0. Elements whose ISO forms are equal count once, on purpose: m · m gives m¹.
+    /// The form in which units are compared: only ISO kinds without prefix, sorted by kind, one
+    /// element a kind, none with exponent 0. Elements of equal ISO form count once, on purpose:
+    /// m · m gives m¹.
     ScaledUnit getAsIsoUnit() const;
 
     /// The factor of `getAsIsoUnit` alone.
     double isoFactor() const noexcept;
 
-    /// Whether the ISO forms have equal elements; the factors are ignored.
+    /// Whether the ISO forms have equal elements, whatever their factors.
     bool compatibleWith(const Unit& other) const;
 
-    /// Whether the reduced forms have exactly equal factors and the same elements in any order.
+    /// Whether the reduced forms have exactly equal factors, and equal elements in any order.
     bool isEquivalent(const Unit& other) const;
 
     /// Whether no element is of the kind `UNIT_NUMBER_OF` and none has the exponent 0. The empty
@@ -71,22 +72,22 @@ struct PELMORA_API Unit {
     bool unitIsWeight() const; ///< g
     bool unitIsUnit() const;   ///< units
 
-    /// The unit with the prefix of its first element of positive exponent moved by `steps`, and the
-    /// factor that keeps a value's magnitude; 1.0 and the unit unchanged when there is none or its
-    /// prefix cannot move.
+    /// The unit with `UnitElement::shiftPrefix` applied to its first element of positive exponent,
+    /// and the factor for a value in it. Without such an element, the unit unchanged and 1.0.
     ScaledUnit shiftPrefix(int steps) const;
 
     /// "mg/kg/min": the numerator's elements, then "/" and each of the denominator's, with powers
-    /// as "²", "³", "^4". Empty for the empty unit. Declared with its type in unitText.h.
+    /// as "²", "³", "^4". Empty for the empty unit.
+    /// GString is incomplete here; include unitText.h to call this.
     GString toString() const;
 
-    /// "{ mg, kg^-1 }": every element with its signed power, in the ANSI code page.
+    /// "{ mg, kg^-1 }": every element with its signed power; narrow text in the ANSI code page.
     std::string toDebugString() const;
 
     friend bool operator==(const Unit&, const Unit&) noexcept = default;
 };
 
-/// A value in the unit that was asked, times `factor`, is the value in `unit`.
+/// A value in the original unit, multiplied by `factor`, is the value in `unit`.
 struct ScaledUnit {
     double factor;
     Unit unit;

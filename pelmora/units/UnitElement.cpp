@@ -35,7 +35,7 @@ ScaledElement UnitElement::shiftPrefix(int steps) const noexcept
     if (!kindRow(unitType).prefixMayChange)
         return {1, *this};
     const UnitElement moved(unitType, movedPrefix(prefix, steps), exponent);
-    // Not left to the division: where the power overflows, it would give NaN instead of 1.
+    // The division would give NaN instead of 1 if the power overflows.
     if (moved == *this)
         return {1, *this};
     return {toIso().factor / moved.toIso().factor, moved};

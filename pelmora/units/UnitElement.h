@@ -13,8 +13,8 @@ class GString;
 struct ScaledElement;
 
 /// One factor of a unit: a base unit with a decimal prefix, raised to an integer power, such as
-/// the kg⁻¹ of mg/kg. A plain value; any field may hold any number, and every operation is defined
-/// for it. Safe to use from several threads at once as far as nobody writes.
+/// the kg⁻¹ of mg/kg. A plain value. Any field may hold any number, and every operation is defined
+/// for it. Several threads may read an element at once, as long as none writes it.
 struct PELMORA_API UnitElement {
     UnitPrefix prefix;
     UnitTypeEnum unitType;
@@ -25,22 +25,22 @@ struct PELMORA_API UnitElement {
     {
     }
 
-    /// The element in its ISO kind without prefix, and the factor by which a value in this
-    /// element's unit is multiplied to be expressed in that one: mL gives 0.001 and L.
-    /// A prefix out of range gives the factor 0, or infinity for a negative exponent.
+    /// The element in its ISO kind without prefix, and the factor for a value in it: mL gives L
+    /// and 0.001. With a prefix out of range, the factor is 0, or infinity for a negative exponent.
     ScaledElement toIso() const noexcept;
 
-    /// Whether both measure the same quantity and so may be merged: equal kinds, two times or two
-    /// lengths. Prefix and exponent play no part.
+    /// Whether both may be merged: the kinds are equal, or both are times or both lengths. Prefix
+    /// and exponent do not matter.
     bool sameDimension(const UnitElement& other) const noexcept;
 
-    /// The element with its prefix moved by `steps`, at most to `NANO` or `GIGA`, and the factor by
-    /// which a value is multiplied to keep its magnitude: mg moved by -1 gives 1000 and mcg.
-    /// The factor is exactly 1.0 and the element unchanged when the prefix cannot move.
+    /// The element with its prefix moved by `steps`, at most to `NANO` or `GIGA`, and the factor
+    /// for a value in it: mg moved by -1 gives mcg and 1000. If the prefix cannot move, the element
+    /// is unchanged and the factor exactly 1.0.
     ScaledElement shiftPrefix(int steps) const noexcept;
 
     /// Prefix symbol, kind symbol and power: "kg", "m²", "min^-1". Empty for the exponent 0. With
-    /// `absoluteExponent` the power's sign is left out. Declared with its type in unitText.h.
+    /// `absoluteExponent` the power's sign is left out.
+    /// GString is incomplete here; include unitText.h to call this.
     GString toString(bool absoluteExponent) const;
 
     friend constexpr bool operator==(const UnitElement&, const UnitElement&) noexcept = default;
@@ -57,7 +57,7 @@ struct PELMORA_API UnitElement {
     }
 };
 
-/// A value in the unit that was asked, times `factor`, is the value in `element`'s unit.
+/// A value in the original element, multiplied by `factor`, is the value in `element`.
 struct ScaledElement {
     double factor;
     UnitElement element;

@@ -8,16 +8,18 @@ namespace Pelmora::Native
 namespace
 {
 
-// The power is taken in pairs of doubles (T. J. Dekker, "A floating-point technique for extending
-// the available precision", 1971), some 106 significant bits, and rounded once at the end.
+// Powers are calculated in pairs of doubles, which hold about 106 significant bits, and rounded
+// once at the end (T. J. Dekker, "A floating-point technique for extending the available
+// precision", 1971).
 
-/// high + low, where low is what high lost by rounding.
+/// The number high + low; low is what rounding took from high.
 struct DoublePair {
     double high;
     double low;
 };
 
-/// (high + low) x 2^exponent with high in [1, 2), so that no intermediate result leaves the range.
+/// (high + low) x 2^exponent, with high in [1, 2) so that no intermediate result over- or
+/// underflows.
 struct Extended {
     double high;
     double low;
@@ -98,7 +100,7 @@ constexpr double rounded(const Extended& x)
         return x.high * powerOfTwo(x.exponent);
     if (x.exponent < smallestExponent - 1)
         return 0;
-    // Subnormal numbers are whole multiples of the smallest one, and their bits are that multiple.
+    // A subnormal number is a whole multiple of the smallest one, and its bits are that multiple.
     const double multiple = x.high * powerOfTwo(x.exponent - smallestExponent);
     auto whole = static_cast<std::uint64_t>(multiple);
     const double fraction = multiple - static_cast<double>(whole);

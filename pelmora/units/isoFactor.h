@@ -7,30 +7,32 @@
 #include <cstddef>
 #include <span>
 
-// The powers of the prefixes' and kinds' factors. Internal to the units and c folders.
+// The powers of the factors of prefixes and kinds. Internal to the units and c folders.
 //
-// They are correctly rounded for every prefix, kind and exponent, with nothing but IEEE double
-// arithmetic: the C runtimes' `pow` differ in the last bits, and with them the two builds would
-// print different digits.
+// They are correctly rounded for every prefix, kind and exponent, and calculated with nothing but
+// IEEE double arithmetic. `pow` of the C runtimes differs in the last bits, and with it the digits
+// that the two builds would print.
 
 namespace Pelmora::Native
 {
 
-/// The powers by kind, prefix and exponent, for exponents of at most `powerTableReach` either way.
-/// The rows are as long as powers of two, so that shifts find an entry.
+/// The largest exponent in the table of powers, and minus the smallest. Units of measure have
+/// smaller ones, and 15 entries leave one of the row's 16 unused.
 inline constexpr std::int32_t powerTableReach = 7;
+
+/// By kind, prefix and exponent. Padded to powers of two so that indexing is a shift.
 
 using PowerRow = std::array<double, 16>;
 using PowerTable = std::array<std::array<PowerRow, 8>, 16>;
 
 extern const PowerTable powerTable;
 
-/// `isoFactor` of what is not in the table.
+/// `isoFactor` for what is not in the table.
 double rareIsoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept;
 
-/// (prefix factor x kind factor) to the power `exponent`: the factor from one prefixed unit to its
-/// ISO kind. A prefix out of range has the factor 0, whose negative powers are infinite; a kind out
-/// of range has the factor 1.
+/// (prefix factor x kind factor) to the power `exponent`, by which a value in the element is
+/// multiplied to be in its ISO form. A prefix out of range has the factor 0, whose negative powers
+/// are infinite; a kind out of range has the factor 1.
 inline double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t exponent) noexcept
 {
     const std::size_t prefixAt = prefixIndex(prefix);
@@ -41,7 +43,7 @@ inline double isoFactor(UnitPrefix prefix, UnitTypeEnum kind, std::int32_t expon
     return powerTable[kindIndex(kind)][prefixAt][exponentAt];
 }
 
-/// The elements of a unit, wherever they lie.
+/// The elements of a unit, in an `ElementList` or in a caller's array.
 using Elements = std::span<const UnitElement>;
 
 /// The factor of the unit's ISO form.

@@ -11,12 +11,12 @@
 #include <string_view>
 #include <utility>
 
-// How the texts of numbers, units and values are made. Internal to the units and c folders.
+// Builds the texts of numbers, units and values. Internal to the units and c folders.
 
 namespace Pelmora::Native
 {
 
-/// Collects a text in place, and on the heap only when it grows longer than texts of units do.
+/// Collects a text in a buffer that everyday texts of units fit into, and longer ones on the heap.
 template <class Char>
 class TextBuilder
 {
@@ -37,7 +37,7 @@ public:
             append(unit);
     }
 
-    /// Text of the same units, or ASCII.
+    /// Requires: `text` is of the same code units, or ASCII.
     template <class Unit>
     void append(std::basic_string_view<Unit> text)
     {
@@ -85,7 +85,7 @@ using WideBuilder = TextBuilder<WideChar>;
 /// See formatSignificant in unitText.h.
 void appendSignificant(NarrowBuilder& text, double value, int digits);
 
-/// See UnitElement::toString, Unit::toString, UnitValue::toString and its normalised relative.
+/// See toString of UnitElement, Unit and UnitValue, and UnitValue::toNormalizedString.
 void appendElement(WideBuilder& text, const UnitElement& element, bool absoluteExponent);
 void appendUnit(WideBuilder& text, Elements unit);
 void appendValue(WideBuilder& text, double value, Elements unit, int precision);

@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <string_view>
 
-// The fixed tables of the units engine, with look-ups that accept any value of the enumerations'
-// underlying type. Internal to the units folder.
+// The tables of the units engine. The look-ups accept any number as a kind or a prefix. Internal to
+// the units folder.
 
 namespace Pelmora::Native
 {
@@ -40,7 +40,7 @@ inline constexpr std::array<KindRow, 15> kindRows = {{
     {"", UnitTypeEnum::UNIT_NUMBER_OF, 1, Dimension::own, true},
 }};
 
-/// The row number of a kind; a kind outside the table has the last row, that of `UNIT_NUMBER_OF`.
+/// The row of a kind; for a kind outside the table the last one, that of `UNIT_NUMBER_OF`.
 constexpr std::size_t kindIndex(UnitTypeEnum kind) noexcept
 {
     const auto index = static_cast<std::uint32_t>(kind);
@@ -64,7 +64,7 @@ struct PrefixRow {
     double factor;
 };
 
-/// From `NANO` to `GIGA`; micro is "mc", as in mcg, in the medical manner.
+/// From `NANO` to `GIGA`. Micro is "mc", as medicine writes it in mcg.
 inline constexpr std::array<PrefixRow, 7> prefixRows = {{
     {"n", 1e-9},
     {"mc", 1e-6},
@@ -75,7 +75,7 @@ inline constexpr std::array<PrefixRow, 7> prefixRows = {{
     {"G", 1e9},
 }};
 
-/// The index of a prefix in `prefixRows`; a prefix out of range gives an index past the end.
+/// The row of a prefix; past the end of `prefixRows` for a prefix out of range.
 constexpr std::size_t prefixIndex(UnitPrefix prefix) noexcept
 {
     constexpr auto lowest = static_cast<std::uint32_t>(UnitPrefix::UNIT_PREFIX_MIN);

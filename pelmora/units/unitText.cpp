@@ -27,9 +27,9 @@ struct NumberFormat {
 
 constexpr NumberFormat streamDefault = {false, 6};
 
-/// No double has more digits behind the point; all further ones are zeros.
+/// No double has more digits after the point; all further ones are zeros.
 constexpr int longestFraction = 1074;
-constexpr std::size_t longestNumber = 1 + 309 + 1 + longestFraction;
+constexpr std::size_t longestNumber = 1 + 309 + 1 + longestFraction; // sign, DBL_MAX, point
 
 std::string streamedNumber(double value, NumberFormat format)
 {
@@ -52,7 +52,8 @@ void appendClassic(NarrowBuilder& text, double value, NumberFormat format)
 
 void appendNumber(NarrowBuilder& text, double value, NumberFormat format)
 {
-    // Streams take the text from the stack, whatever its length.
+    // libstdc++ formats a streamed number in a stack buffer as long as the precision; a huge
+    // precision would overflow the stack.
     const int zeros = std::max(format.precision - longestFraction, 0);
     format.precision -= zeros;
     if (std::locale() == std::locale::classic())
@@ -79,13 +80,13 @@ void appendPower(WideBuilder& text, std::int64_t exponent)
     }
 }
 
-/// The number, a blank and the unit, if that has a text.
+/// The number and, if the unit has a text, a blank and the unit.
 void appendWithUnit(WideBuilder& text, NarrowBuilder& builtNumber, Elements unit)
 {
     const std::string_view number = builtNumber.view();
     if (asciiPrefix(number) == number.size())
         text.append(number);
-    else // from a locale of the caller's, in the ANSI code page
+    else // The global locale brought in characters of the ANSI code page.
         text.append(WideView(GString(number)));
     text.append(u' ');
     const std::size_t unitStart = text.size();

@@ -10,22 +10,22 @@
 // The texts of units and values: `toString` and its relatives of UnitElement, Unit and UnitValue.
 //
 // Numbers follow the process-wide C++ locale (`std::locale::global`) as an output stream would,
-// with the decimal point, grouping and digits of that locale; in the classic locale they look as
-// printf writes them. Unit texts never depend on a locale. There is no way back: units are not read
-// from text. Several threads may make texts at once, while nobody changes the global locale.
+// with its decimal point, grouping and digits. In the classic locale they look as printf writes
+// them. Units look the same in every locale. No function reads a unit from text. Several threads
+// may make texts at once, as long as none changes the global locale.
 
 namespace Pelmora::Native
 {
 
-/// The number with `digits` significant digits in general notation, filled up with zeros behind a
-/// point: with 3 digits 5 gives "5.00", 120 "120", 1234.5 "1.23e+03", -5 "-5.0" (the sign counts
-/// as a digit, on purpose, and so does a decimal comma of the locale's, which leaves "0,5" as
-/// "0,5.0"). With `digits` of 0 or less, 6 significant digits and no filling up.
+/// The number with `digits` significant digits in general notation, filled up with zeros after a
+/// point. With 3 digits, 5 gives "5.00", 120 "120" and 1234.5 "1.23e+03". On purpose, a sign counts
+/// as a digit: -5 gives "-5.0"; and so does a locale's decimal comma: 0.5 gives "0,5.0". With
+/// `digits` of 0 or less, the number has 6 significant digits and is not filled up.
 PELMORA_API std::string formatSignificant(double value, int digits);
 
-/// The digits of a number's text that count as significant: every character but the point and
-/// leading zeros, on purpose also signs and the "e" and "+" of an exponent. Sets `hasPoint` when
-/// there is a point and leaves it alone otherwise.
+/// How many characters of a number's text count as significant digits: all but the point and
+/// leading zeros; on purpose also signs, and the "e" and "+" of an exponent. Sets `hasPoint` to
+/// true if there is a point, and leaves it unchanged otherwise.
 PELMORA_API int countSignificantDigits(std::string_view text, bool& hasPoint) noexcept;
 
 } // namespace Pelmora::Native

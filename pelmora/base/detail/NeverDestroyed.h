@@ -5,8 +5,8 @@
 namespace Pelmora::Native
 {
 
-/// Holds a process-wide object whose destructor never runs, so that other static objects may use
-/// it from theirs. Only for objects whose memory the end of the process may release.
+/// Holds a process-wide object whose destructor never runs, so that the destructors of other static
+/// objects may use it. Only for objects that own nothing but memory, which the system takes back.
 template <class T>
 union NeverDestroyed {
     T value;
@@ -16,7 +16,7 @@ union NeverDestroyed {
         : value(std::forward<Arguments>(arguments)...)
     {
     }
-    ~NeverDestroyed() {} // NOLINT(modernize-use-equals-default): would be deleted
+    ~NeverDestroyed() {} // NOLINT(modernize-use-equals-default): that would be deleted
     NeverDestroyed(const NeverDestroyed&) = delete;
     NeverDestroyed& operator=(const NeverDestroyed&) = delete;
 };
