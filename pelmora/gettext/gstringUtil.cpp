@@ -267,24 +267,23 @@ bool GString::to_bool(bool* ok) const noexcept
 GString GString::fromArgument(const FormatArgument& number, std::string_view format)
 {
     std::array<char, 50> buffer = {};
-    const std::ptrdiff_t length = formatInto<char>(buffer, format, {&number, 1});
-    const std::size_t used = length < 0 ? buffer.size() : static_cast<std::size_t>(length);
-    return GString(std::string_view(buffer.data(), used));
+    const FormatResult result = formatInto<char>(buffer, format, {&number, 1});
+    return GString(std::string_view(buffer.data(), result.length));
 }
 
 GString GString::formatted(WideView format, std::span<const FormatArgument> arguments)
 {
     std::array<WideChar, 512> small;
-    const std::ptrdiff_t length = formatInto<WideChar>(small, format, arguments);
-    if (length >= 0)
-        return WideView(small.data(), static_cast<std::size_t>(length));
+    const FormatResult result = formatInto<WideChar>(small, format, arguments);
+    if (!result.isCut)
+        return WideView(small.data(), result.length);
 
     constexpr std::size_t largeSize = 65536;
     WideString large(largeSize, 0);
-    const std::ptrdiff_t largeLength =
+    const FormatResult largeResult =
         formatInto<WideChar>(std::span(large).first(largeSize - 1), format, arguments);
-    if (largeLength >= 0)
-        large.resize(static_cast<std::size_t>(largeLength));
+    if (!largeResult.isCut)
+        large.resize(largeResult.length);
     return large;
 }
 

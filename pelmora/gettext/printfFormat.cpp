@@ -72,6 +72,15 @@ public:
     }
 
 private:
+    bool take(std::string_view characters)
+    {
+        const auto next = format_.substr(position_, characters.size());
+        if (!std::equal(next.begin(), next.end(), characters.begin(), characters.end()))
+            return false;
+        position_ += characters.size();
+        return true;
+    }
+
     char takeAnyOf(std::string_view characters)
     {
         for (const char character : characters) {
@@ -108,8 +117,7 @@ private:
             if (modifier == 'h')
                 result.lengthBits = result.lengthBits == 16 ? 8 : 16;
             else if (modifier == 'I')
-                while (takeAnyOf("3264") != 0) {
-                }
+                static_cast<void>(take("32") || take("64"));
     }
 
     std::basic_string_view<Char> format_;
@@ -205,8 +213,8 @@ private:
 } // namespace
 
 template <class Char>
-std::ptrdiff_t formatInto(std::span<Char> buffer, std::basic_string_view<Char> format,
-                          std::span<const FormatArgument> arguments)
+FormatResult formatInto(std::span<Char> buffer, std::basic_string_view<Char> format,
+                        std::span<const FormatArgument> arguments)
 {
     BoundedOutput<Char> output(buffer);
     ArgumentQueue queue(arguments);
@@ -230,12 +238,12 @@ std::ptrdiff_t formatInto(std::span<Char> buffer, std::basic_string_view<Char> f
             argument == nullptr ? std::nullopt : convertedArgument<Char>(conversion, *argument);
         output.append(text ? std::basic_string_view<Char>(*text) : whole);
     }
-    return output.full() ? -1 : static_cast<std::ptrdiff_t>(output.used());
+    return {output.used(), output.full()};
 }
 
-template std::ptrdiff_t formatInto<char>(std::span<char>, std::string_view,
-                                         std::span<const FormatArgument>);
-template std::ptrdiff_t formatInto<WideChar>(std::span<WideChar>, WideView,
-                                             std::span<const FormatArgument>);
+template FormatResult formatInto<char>(std::span<char>, std::string_view,
+                                       std::span<const FormatArgument>);
+template FormatResult formatInto<WideChar>(std::span<WideChar>, WideView,
+                                           std::span<const FormatArgument>);
 
 } // namespace Pelmora::Native

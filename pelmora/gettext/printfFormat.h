@@ -12,16 +12,20 @@
 namespace Pelmora::Native
 {
 
-/// Writes `format` with its conversions replaced by the arguments into `buffer`, without a NUL.
-/// Returns the number of units written, or -1 when they do not all fit; the buffer then holds the
-/// first ones. `Char` is `char` (ANSI code page) or `WideChar`.
-template <class Char>
-std::ptrdiff_t formatInto(std::span<Char> buffer, std::basic_string_view<Char> format,
-                          std::span<const FormatArgument> arguments);
+struct FormatResult {
+    std::size_t length; ///< of what was written
+    bool isCut;         ///< the rest did not fit
+};
 
-extern template std::ptrdiff_t formatInto<char>(std::span<char>, std::string_view,
-                                                std::span<const FormatArgument>);
-extern template std::ptrdiff_t formatInto<WideChar>(std::span<WideChar>, WideView,
-                                                    std::span<const FormatArgument>);
+/// Writes `format` with its conversions replaced by the arguments into `buffer`, without a NUL.
+/// `Char` is `char` (ANSI code page) or `WideChar`.
+template <class Char>
+FormatResult formatInto(std::span<Char> buffer, std::basic_string_view<Char> format,
+                        std::span<const FormatArgument> arguments);
+
+extern template FormatResult formatInto<char>(std::span<char>, std::string_view,
+                                              std::span<const FormatArgument>);
+extern template FormatResult formatInto<WideChar>(std::span<WideChar>, WideView,
+                                                  std::span<const FormatArgument>);
 
 } // namespace Pelmora::Native

@@ -82,13 +82,6 @@ private:
 
 } // namespace
 
-LogInterface::~LogInterface() = default;
-
-bool LogInterface::is_ok()
-{
-    return true;
-}
-
 LogStream::LogStream() : path_(logPath()), process_(Platform::processId())
 {
     const bool appends = state().destroyedOnce || state().settings.append_mode;
@@ -190,6 +183,11 @@ LogStream& LogStream::operator<<(const char* text)
 LogStream& LogStream::operator<<(const std::string& text)
 {
     return put(text);
+}
+
+LogStream& LogStream::operator<<(const GString& text)
+{
+    return put(text.to_narrow());
 }
 
 LogStream& LogStream::operator<<(char character)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pelmora/export.h"
+#include "pelmora/gettext/gstringUtil.h"
 #include "pelmora/log/LogInterface.h"
 
 #include <atomic>
@@ -45,6 +46,7 @@ public:
 
     LogStream& operator<<(const char* text); ///< Requires: not null
     LogStream& operator<<(const std::string& text);
+    LogStream& operator<<(const GString& text); ///< in the ANSI code page
     LogStream& operator<<(char character);
     LogStream& operator<<(short number);
     LogStream& operator<<(unsigned short number);

@@ -38,13 +38,13 @@ struct NameRow {
 };
 
 constexpr bool withNumbers = true;
-constexpr bool alone = false;
+constexpr bool withoutNumbers = false;
 
 /// The first row that fits counts.
 constexpr NameRow names[] = {
     {"Win32s", 0},
-    {"Windows 95", 1, exactly(4), exactly(0), alone, "CB", " OSR2"},
-    {"Windows 98", 1, exactly(4), exactly(10), alone, "A", " SE"},
+    {"Windows 95", 1, exactly(4), exactly(0), withoutNumbers, "CB", " OSR2"},
+    {"Windows 98", 1, exactly(4), exactly(10), withoutNumbers, "A", " SE"},
     {"Windows ME", 1, exactly(4), exactly(90)},
     {"Windows 9x ", 1, any, any, withNumbers},
     {"Windows Vista", 2, exactly(6)},

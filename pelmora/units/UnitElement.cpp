@@ -32,7 +32,7 @@ bool UnitElement::sameDimension(const UnitElement& other) const noexcept
 
 ScaledElement UnitElement::shiftPrefix(int steps) const noexcept
 {
-    if (!kindRow(unitType).prefixMayChange)
+    if (kindRow(unitType).prefixRule == PrefixRule::fixed)
         return {1, *this};
     const UnitElement moved(unitType, movedPrefix(prefix, steps), exponent);
     // The division would give NaN instead of 1 if the power overflows.

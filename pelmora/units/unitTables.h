@@ -12,32 +12,36 @@
 namespace Pelmora::Native
 {
 
-enum class Dimension : std::uint8_t { own, time, length };
+/// What kinds have in common when their elements may be merged.
+enum class SharedDimension : std::uint8_t { none, time, length };
+
+/// Whether a shift of the prefix, as in normalisation, may change it.
+enum class PrefixRule : std::uint8_t { movable, fixed };
 
 struct KindRow {
     std::string_view symbol;
     UnitTypeEnum isoKind;
     double factor; ///< to the ISO kind
-    Dimension dimension;
-    bool prefixMayChange;
+    SharedDimension shared;
+    PrefixRule prefixRule;
 };
 
 inline constexpr std::array<KindRow, 15> kindRows = {{
-    {"g", UnitTypeEnum::UNIT_G, 1, Dimension::own, true},
-    {"L", UnitTypeEnum::UNIT_L, 1, Dimension::own, true},
-    {"s", UnitTypeEnum::UNIT_S, 1, Dimension::time, false},
-    {"min", UnitTypeEnum::UNIT_S, 60, Dimension::time, false},
-    {"hr", UnitTypeEnum::UNIT_S, 3600, Dimension::time, false},
-    {"m", UnitTypeEnum::UNIT_M, 1, Dimension::length, true},
-    {"mi U.S.", UnitTypeEnum::UNIT_M, 1609.34721869, Dimension::length, true},
-    {"inch", UnitTypeEnum::UNIT_M, 0.0254, Dimension::length, false},
-    {"cm", UnitTypeEnum::UNIT_M, 0.01, Dimension::length, false},
-    {"mol", UnitTypeEnum::UNIT_MOL, 1, Dimension::own, true},
-    {"IU", UnitTypeEnum::UNIT_IU, 1, Dimension::own, false},
-    {"units", UnitTypeEnum::UNIT_U, 1, Dimension::own, false},
-    {"%", UnitTypeEnum::UNIT_PROCENT, 1, Dimension::own, false},
-    {"g", UnitTypeEnum::UNIT_G_PT, 1, Dimension::own, true},
-    {"", UnitTypeEnum::UNIT_NUMBER_OF, 1, Dimension::own, true},
+    {"g", UnitTypeEnum::UNIT_G, 1, SharedDimension::none, PrefixRule::movable},
+    {"L", UnitTypeEnum::UNIT_L, 1, SharedDimension::none, PrefixRule::movable},
+    {"s", UnitTypeEnum::UNIT_S, 1, SharedDimension::time, PrefixRule::fixed},
+    {"min", UnitTypeEnum::UNIT_S, 60, SharedDimension::time, PrefixRule::fixed},
+    {"hr", UnitTypeEnum::UNIT_S, 3600, SharedDimension::time, PrefixRule::fixed},
+    {"m", UnitTypeEnum::UNIT_M, 1, SharedDimension::length, PrefixRule::movable},
+    {"mi U.S.", UnitTypeEnum::UNIT_M, 1609.34721869, SharedDimension::length, PrefixRule::movable},
+    {"inch", UnitTypeEnum::UNIT_M, 0.0254, SharedDimension::length, PrefixRule::fixed},
+    {"cm", UnitTypeEnum::UNIT_M, 0.01, SharedDimension::length, PrefixRule::fixed},
+    {"mol", UnitTypeEnum::UNIT_MOL, 1, SharedDimension::none, PrefixRule::movable},
+    {"IU", UnitTypeEnum::UNIT_IU, 1, SharedDimension::none, PrefixRule::fixed},
+    {"units", UnitTypeEnum::UNIT_U, 1, SharedDimension::none, PrefixRule::fixed},
+    {"%", UnitTypeEnum::UNIT_PROCENT, 1, SharedDimension::none, PrefixRule::fixed},
+    {"g", UnitTypeEnum::UNIT_G_PT, 1, SharedDimension::none, PrefixRule::movable},
+    {"", UnitTypeEnum::UNIT_NUMBER_OF, 1, SharedDimension::none, PrefixRule::movable},
 }};
 
 /// The row of a kind; for a kind outside the table the last one, that of `UNIT_NUMBER_OF`.
@@ -55,8 +59,8 @@ constexpr const KindRow& kindRow(UnitTypeEnum kind) noexcept
 /// Whether two elements of these kinds may be merged.
 constexpr bool haveSameDimension(UnitTypeEnum a, UnitTypeEnum b) noexcept
 {
-    const Dimension dimension = kindRow(a).dimension;
-    return a == b || (dimension != Dimension::own && dimension == kindRow(b).dimension);
+    const SharedDimension shared = kindRow(a).shared;
+    return a == b || (shared != SharedDimension::none && shared == kindRow(b).shared);
 }
 
 struct PrefixRow {

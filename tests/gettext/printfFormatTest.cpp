@@ -57,6 +57,7 @@ TEST(Format, WhatDoesNotFitIsWrittenAsItStands)
         {GString::format(u"%1$s", "x"), u"%1$s"},
         {GString::format(u"50%", 7), u"50%"},
         {GString::format(u"%f", 7), u"%f"},
+        {GString::format(u"%I6262d", 7), u"%I6262d"},
     };
     for (const auto& [formatted, expected] : rows)
         EXPECT_EQ(formatted, expected);

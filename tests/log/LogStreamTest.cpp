@@ -89,7 +89,7 @@ TEST_F(LogStreamDeathTest, EveryItemOutlivesAProcessThatEndsAtOnce)
 {
     EXPECT_EXIT(
         {
-            get_log() << "text " << std::string("string ") << std::string() << 'c' << ' '
+            get_log() << "text " << std::string("string ") << GString(u"\u00E9 ") << 'c' << ' '
                       << short(-1) << ' ' << static_cast<unsigned short>(65535) << ' ' << -2 << ' '
                       << 4000000000U << ' ' << -3L << ' ' << 4UL << ' ' << 5LL << ' ' << 2.5F << ' '
                       << -0.125 << ' ' << reinterpret_cast<const void*>(0x1F) << ' ' << true << ' '
@@ -99,9 +99,10 @@ TEST_F(LogStreamDeathTest, EveryItemOutlivesAProcessThatEndsAtOnce)
             std::_Exit(0);
         },
         testing::ExitedWithCode(0), "");
-    EXPECT_EQ(written(), "HEADER\ntext string c -1 65535 -2 4000000000 -3 4 5 2.500000 -0.125000 "
-                         "0x1f true false " +
-                             std::to_string(1e300) + "\nwritten0x123456789abcdef0");
+    EXPECT_EQ(written(),
+              "HEADER\ntext string \xE9 c -1 65535 -2 4000000000 -3 4 5 2.500000 -0.125000 "
+              "0x1f true false " +
+                  std::to_string(1e300) + "\nwritten0x123456789abcdef0");
 }
 
 bool logsLate = false;

@@ -3,15 +3,17 @@
 
     {prefix, kind, exponent, bits of the nearest double}
 
-for exponents -8 to 8, and for some further ones up to the ends of the range. The power is taken in
-exact fractions and rounded once."""
+for exponents -8 to 8, and for every seventh beyond up to where the power is 0 or infinity. The power
+is taken in exact fractions and rounded once."""
 import struct
 import sys
 from fractions import Fraction
 
 PREFIX_FACTORS = {-3: 1e-9, -2: 1e-6, -1: 1e-3, 0: 1.0, 1: 1e3, 2: 1e6, 3: 1e9}
 KIND_FACTORS = {0: 1.0, 3: 60.0, 4: 3600.0, 6: 1609.34721869, 7: 0.0254, 8: 0.01}
-EXPONENTS = [*range(-8, 9), *range(-400, -8, 7), *range(9, 400, 7)]
+# The one that grows slowest, 1609.34721869 / 1000, leaves the range beyond an exponent of 1566.
+FURTHER = 1600
+EXPONENTS = [range(-8, 9), range(-9, -FURTHER, -7), range(9, FURTHER, 7)]
 
 
 def nearest_double(base, exponent):
@@ -28,7 +30,10 @@ def nearest_double(base, exponent):
 with open(sys.argv[1], "w") as out:
     for prefix, prefix_factor in PREFIX_FACTORS.items():
         for kind, kind_factor in KIND_FACTORS.items():
-            for exponent in EXPONENTS:
-                power = nearest_double(prefix_factor * kind_factor, exponent)
-                bits = struct.unpack("<Q", struct.pack("<d", power))[0]
-                out.write(f"{{{prefix}, {kind}, {exponent}, {bits:#018x}}},\n")
+            for exponents in EXPONENTS:
+                for exponent in exponents:
+                    power = nearest_double(prefix_factor * kind_factor, exponent)
+                    bits = struct.unpack("<Q", struct.pack("<d", power))[0]
+                    out.write(f"{{{prefix}, {kind}, {exponent}, {bits:#018x}}},\n")
+                    if power in (0, float("inf")):
+                        break
