@@ -1,12 +1,11 @@
 #pragma once
 
 #include "pelmora/log/LogStream.h"
+#include "pelmora/platform/processId.h"
 
 #include <fstream>
 #include <iterator>
 #include <string>
-
-#include <windows.h>
 
 namespace Pelmora
 {
@@ -22,7 +21,7 @@ private:
     static std::string content()
     {
         Native::log_settings().file_name =
-            "pelmora-" + std::to_string(GetCurrentProcessId()) + ".log";
+            "pelmora-" + std::to_string(Native::Platform::processId()) + ".log";
         std::ifstream file(Native::get_log().path());
         return {std::istreambuf_iterator<char>(file), {}};
     }

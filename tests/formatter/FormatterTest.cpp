@@ -15,7 +15,7 @@ WideString wide(std::string_view text)
     return {text.begin(), text.end()};
 }
 
-TEST(Formatter, EscapeAndUnescape)
+TEST(Formatter, UnescapeUndoesEscape)
 {
     const std::tuple<std::string, std::string> rows[] = {
         {"", ""},
@@ -78,7 +78,7 @@ TEST(Formatter, OnePassEqualsFivePasses)
     }
 }
 
-TEST(Formatter, ReplaceAll)
+TEST(Formatter, ReplaceAllDoesNotSearchWhatItPutIn)
 {
     EXPECT_EQ(replaceAll("aaaa", "aa", "a"), "aa");
     EXPECT_EQ(replaceAll("abab", "ab", "xaby"), "xabyxaby");

@@ -1,10 +1,10 @@
 #include "pelmora/gettext/Catalogue.h"
 
+#include "tests/TemporaryFolder.h"
 #include "tests/printing.h"
 
+#include <algorithm>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 
 #include <gtest/gtest.h>
 
@@ -13,45 +13,33 @@ namespace Pelmora::Native
 namespace
 {
 
-std::string content(const std::string& path)
+std::string content(const std::string& name)
 {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return TemporaryFolder::read(CATALOGUES + name);
 }
 
-/// A catalogue file of the given bytes that exists as long as this object.
-class TemporaryCatalogue
+bool load(Catalogue& catalogue, const std::string& bytes)
 {
-public:
-    TemporaryCatalogue() = default;
-    TemporaryCatalogue(const TemporaryCatalogue&) = delete;
-    TemporaryCatalogue& operator=(const TemporaryCatalogue&) = delete;
-    ~TemporaryCatalogue() { std::remove(path_.c_str()); }
-
-    bool load(Catalogue& catalogue, std::string_view bytes)
-    {
-        std::ofstream(path_, std::ios::binary | std::ios::trunc) << bytes;
-        return catalogue.load(path_);
-    }
-
-private:
-    std::string path_ = CATALOGUES "temporary.mo";
-};
+    static const TemporaryFolder folder;
+    TemporaryFolder::write(folder.path("temporary.mo"), bytes);
+    return catalogue.load(folder.name("temporary.mo"));
+}
 
 TEST(Catalogue, EveryFormGivesTheSameTexts)
 {
     for (const std::string form : {"little", "big", "nohash"}) {
+        SCOPED_TRACE(form);
         Catalogue catalogue;
         ASSERT_TRUE(catalogue.load(CATALOGUES "small." + form));
-        EXPECT_EQ(catalogue.lookup("Dose"), "Dosis") << form;
-        EXPECT_EQ(catalogue.lookup(std::string_view("Dose\0x", 6)), "Dosis") << form;
-        EXPECT_EQ(catalogue.lookup("a"), "ein") << form;
-        EXPECT_EQ(catalogue.lookup("ab"), "zwei") << form;
-        EXPECT_EQ(catalogue.lookup("abc"), "") << form;
-        EXPECT_EQ(catalogue.lookup("one drug"), "ein Mittel") << form;
-        EXPECT_EQ(catalogue.lookup("Caf\xC3\xA9"), "Kaffeehaus") << form;
-        EXPECT_EQ(catalogue.translate("Dose"), u"Dosis") << form;
-        EXPECT_EQ(catalogue.translate("dose"), u"") << form;
+        EXPECT_EQ(catalogue.lookup("Dose"), "Dosis");
+        EXPECT_EQ(catalogue.lookup(std::string_view("Dose\0x", 6)), "Dosis");
+        EXPECT_EQ(catalogue.lookup("a"), "ein");
+        EXPECT_EQ(catalogue.lookup("ab"), "zwei");
+        EXPECT_EQ(catalogue.lookup("abc"), "");
+        EXPECT_EQ(catalogue.lookup("one drug"), "ein Mittel");
+        EXPECT_EQ(catalogue.lookup("Caf\xC3\xA9"), "Kaffeehaus");
+        EXPECT_EQ(catalogue.translate("Dose"), u"Dosis");
+        EXPECT_EQ(catalogue.translate("dose"), u"");
     }
 }
 
@@ -60,7 +48,7 @@ TEST(Catalogue, FindsWhatMsgunfmtShows)
     for (const std::string language : {"de", "ja", "es", "ru", "pl"}) {
         Catalogue catalogue;
         ASSERT_TRUE(catalogue.load(CATALOGUES "real." + language));
-        const std::string pairs = content(CATALOGUES "real." + language + ".pairs");
+        const std::string pairs = content("real." + language + ".pairs");
         int count = 0;
         for (std::size_t at = 0; at < pairs.size(); ++count) {
             const std::string msgid = pairs.c_str() + at;
@@ -73,7 +61,7 @@ TEST(Catalogue, FindsWhatMsgunfmtShows)
     }
 }
 
-TEST(Catalogue, PoText)
+TEST(Catalogue, PoTextHasEveryEntryEscaped)
 {
     Catalogue catalogue;
     ASSERT_TRUE(catalogue.load(CATALOGUES "small.big.mo"));
@@ -85,18 +73,17 @@ TEST(Catalogue, PoText)
     EXPECT_EQ(std::count(po.begin(), po.end(), '\r'), 3 * 7); // an entry has three line ends
 }
 
-TEST(Catalogue, FilesThatAreNoCatalogues)
+TEST(Catalogue, OtherFilesAreRefusedAndLeaveItEmpty)
 {
-    const std::string good = content(CATALOGUES "small.little.mo");
-    TemporaryCatalogue file;
+    const std::string good = content("small.little.mo");
     Catalogue catalogue;
-    ASSERT_TRUE(file.load(catalogue, good));
-    EXPECT_FALSE(file.load(catalogue, good.substr(0, 28)));
+    ASSERT_TRUE(load(catalogue, good));
+    EXPECT_FALSE(load(catalogue, good.substr(0, 28)));
     EXPECT_EQ(catalogue.lookup("Dose"), ""); // what was loaded before is gone
-    EXPECT_TRUE(file.load(catalogue, good.substr(0, 29)));
+    EXPECT_TRUE(load(catalogue, good.substr(0, 29)));
     EXPECT_EQ(catalogue.lookup("Dose"), "");
-    EXPECT_FALSE(file.load(catalogue, "x" + good));
-    EXPECT_FALSE(file.load(catalogue, ""));
+    EXPECT_FALSE(load(catalogue, "x" + good));
+    EXPECT_FALSE(load(catalogue, ""));
     EXPECT_FALSE(catalogue.load(CATALOGUES "no such file"));
     EXPECT_FALSE(catalogue.load("."));
     EXPECT_EQ(catalogue.to_po(), "");
@@ -104,9 +91,8 @@ TEST(Catalogue, FilesThatAreNoCatalogues)
 
 TEST(Catalogue, HostileFilesHarmNothing)
 {
-    TemporaryCatalogue file;
     for (const std::string form : {"little", "big", "nohash"}) {
-        const std::string good = content(CATALOGUES "small." + form + ".mo");
+        const std::string good = content("small." + form + ".mo");
         const auto size = static_cast<std::uint32_t>(good.size());
         const std::uint32_t values[] = {0,        1,        2,          3,          7,         8,
                                         size - 4, size - 1, 0x7FFFFFFF, 0xFFFFFFFF, 0xFFFFFFFE};
@@ -119,7 +105,7 @@ TEST(Catalogue, HostileFilesHarmNothing)
                     std::reverse(bad.begin() + static_cast<std::ptrdiff_t>(at),
                                  bad.begin() + static_cast<std::ptrdiff_t>(at) + 4);
                 Catalogue catalogue;
-                ASSERT_TRUE(file.load(catalogue, bad));
+                ASSERT_TRUE(load(catalogue, bad)) << form << " with " << value << " at " << at;
                 for (const char* msgid : {"Dose", "a", "ab", "zz", ""})
                     catalogue.lookup(msgid);
                 EXPECT_LE(catalogue.to_po().size(), 3U << 20);
@@ -127,11 +113,11 @@ TEST(Catalogue, HostileFilesHarmNothing)
         }
     }
     // A smallest hash table, and a large one whose slots all name one long string.
-    std::string three = content(CATALOGUES "small.little.mo");
+    std::string three = content("small.little.mo");
     const std::uint32_t smallest = 3;
     std::memcpy(three.data() + 20, &smallest, 4);
     Catalogue few;
-    ASSERT_TRUE(file.load(few, three));
+    ASSERT_TRUE(load(few, three));
     const std::string po = few.to_po();
     EXPECT_EQ(std::count(po.begin(), po.end(), '\r') % 3, 0);
     EXPECT_LE(std::count(po.begin(), po.end(), '\r'), 3 * 3);
@@ -140,21 +126,21 @@ TEST(Catalogue, HostileFilesHarmNothing)
     for (int slot = 0; slot < 20000; ++slot)
         shared += std::string_view("\1\0\0\0", 4);
     shared.append(100000, 'x').append(1, '\0');
-    ASSERT_TRUE(file.load(few, shared));
+    ASSERT_TRUE(load(few, shared));
     EXPECT_LE(few.to_po().size(), 20U << 20);
     // A full hash table of slots beyond the strings, and a last string without its NUL.
-    std::string full = content(CATALOGUES "small.little.mo");
+    std::string full = content("small.little.mo");
     std::uint32_t hashTable = 0;
     std::uint32_t slots = 0;
     std::memcpy(&slots, full.data() + 20, 4);
     std::memcpy(&hashTable, full.data() + 24, 4);
     std::fill_n(full.begin() + hashTable, 4 * slots, '\x7F');
     Catalogue catalogue;
-    ASSERT_TRUE(file.load(catalogue, full));
+    ASSERT_TRUE(load(catalogue, full));
     EXPECT_EQ(catalogue.lookup("Dose"), "");
-    std::string unterminated = content(CATALOGUES "small.nohash.mo");
+    std::string unterminated = content("small.nohash.mo");
     unterminated.pop_back();
-    ASSERT_TRUE(file.load(catalogue, unterminated));
+    ASSERT_TRUE(load(catalogue, unterminated));
     EXPECT_EQ(catalogue.lookup("say \"hi\"\nnow"), "");
 }
 

@@ -29,8 +29,9 @@ TEST(CodePages, TextsOfBothSidesMatch)
         {936, "\xB1\xB1\xBE\xA9", u"\u5317\u4EAC"},
     };
     for (const auto& [codePage, narrow, text] : rows) {
-        EXPECT_EQ(GString(narrow, codePage), text) << codePage;
-        EXPECT_EQ(text.to_narrow(codePage), narrow) << codePage;
+        SCOPED_TRACE(codePage);
+        EXPECT_EQ(GString(narrow, codePage), text);
+        EXPECT_EQ(text.to_narrow(codePage), narrow);
     }
 }
 
@@ -45,7 +46,7 @@ TEST(CodePages, WhatHasNoCounterpartIsReplaced)
         {99999, u"\u00E9", ""},
     };
     for (const auto& [codePage, text, narrow] : toNarrow)
-        EXPECT_EQ(text.to_narrow(codePage), narrow) << testing::PrintToString(text);
+        EXPECT_EQ(text.to_narrow(codePage), narrow) << codePage;
     const std::tuple<unsigned int, std::string, GString> toWide[] = {
         {65001, "\xF0\x9F\x98\x80", u"\xD83D\xDE00"},
         {65001, "a\xF0\x9F\x98z\xE2\x82", u"a\uFFFDz\uFFFD"},
@@ -57,7 +58,7 @@ TEST(CodePages, WhatHasNoCounterpartIsReplaced)
         {99999, "\xE9", u""},
     };
     for (const auto& [codePage, narrow, text] : toWide)
-        EXPECT_EQ(GString(narrow, codePage), text) << narrow;
+        EXPECT_EQ(GString(narrow, codePage), text) << codePage;
 }
 
 TEST(CodePages, BestFitsAreThoseOfWindows)

@@ -13,7 +13,7 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(GString, ToLong)
+TEST(GString, ToLongReadsAsWcstolOnWindows)
 {
     const struct {
         GString text;
@@ -39,9 +39,10 @@ TEST(GString, ToLong)
         {WideString{'4', 0, '2'}, 4, false},
     };
     for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.text));
         bool ok = !row.ok;
-        EXPECT_EQ(row.text.to_long(&ok), row.value) << testing::PrintToString(row.text);
-        EXPECT_EQ(ok, row.ok) << testing::PrintToString(row.text);
+        EXPECT_EQ(row.text.to_long(&ok), row.value);
+        EXPECT_EQ(ok, row.ok);
         EXPECT_EQ(row.text.to_long(), row.value);
     }
     // Digits of seventeen scripts and ASCII; before a digit also two signs and 24 kinds of space.
@@ -59,7 +60,7 @@ TEST(GString, ToLong)
     EXPECT_EQ(beforeDigits, digits + 2 + 24);
 }
 
-TEST(GString, Booleans)
+TEST(GString, OnlyTrueAndFalseAreBooleans)
 {
     bool ok = false;
     EXPECT_TRUE(GString::from_bool(true).to_bool(&ok) && ok);

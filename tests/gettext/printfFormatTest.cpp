@@ -12,7 +12,7 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(Format, ConversionsOfEveryKind)
+TEST(Format, ConversionsAreThoseOfC)
 {
     const GString drug(u"\u30C9\u30D1");
     const char* narrow = "caf\xE9";
@@ -63,7 +63,7 @@ TEST(Format, WhatDoesNotFitIsWrittenAsItStands)
         EXPECT_EQ(formatted, expected);
 }
 
-TEST(Format, LongResults)
+TEST(Format, LongResultsAreCut)
 {
     for (const std::size_t length : {511U, 512U, 513U, 65535U}) {
         const GString text(WideString(length, 'x'));
@@ -76,7 +76,7 @@ TEST(Format, LongResults)
     EXPECT_EQ(GString::format(u"%.2000000000f", 1.0).size(), 65536U);
 }
 
-TEST(Format, Numbers)
+TEST(Format, NumbersOfEveryTypeAreCutAfterFiftyBytes)
 {
     EXPECT_EQ(GString::from_number(-5, "%d mg"), u"-5 mg");
     EXPECT_EQ(GString::from_number(std::uint32_t(4000000000), "%u"), u"4000000000");

@@ -2,6 +2,7 @@
 
 #include "pelmora/gettext/TextLocale.h"
 #include "pelmora/platform/temporaryFolder.h"
+#include "tests/log/system.h"
 
 #include <cstdlib>
 #include <ctime>
@@ -13,43 +14,10 @@
 
 #include <gtest/gtest.h>
 
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <dlfcn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
-
 namespace Pelmora::Native
 {
 namespace
 {
-
-#ifdef _WIN32
-void leaveGreenwich()
-{
-    _putenv("TZ="); // which GetLocalTime does not know either
-}
-
-void forkAndEndTheChild() {}
-#else
-void leaveGreenwich()
-{
-    setenv("TZ", "<+07>-7", 1);
-}
-
-void forkAndEndTheChild()
-{
-    if (fork() == 0)
-        std::exit(0);
-    wait(nullptr);
-}
-
-const auto LoadLibraryA = [](const char* path) { return dlopen(path, RTLD_NOW); };
-const auto GetProcAddress = dlsym;
-const auto FreeLibrary = dlclose;
-#endif
 
 /// Each test makes its log in a process of its own, which ends in the way that the test is about.
 class LogStreamTest : public testing::Test
@@ -182,20 +150,17 @@ TEST_F(LogStreamDeathTest, FirstLogOfAProcessTruncatesUnlessToldOtherwiseAndThen
                          "HEADER\ntrue\nanother program's\n-eof-\n");
 }
 
-/// With a copy of the library that is loaded for it.
+/// Logs through a copy of the library that is loaded for this call.
 void logAndUnload(const std::string& fileName, const char* line)
 {
-    const auto library = LoadLibraryA(PELMORA_LIBRARY);
-    const auto find = [&](const char* symbol) {
-        return reinterpret_cast<void*>(GetProcAddress(library, symbol));
-    };
-    const auto settings =
-        reinterpret_cast<decltype(&log_settings)>(find("_ZN7Pelmora6Native12log_settingsEv"));
+    void* const library = loadLibrary(PELMORA_LIBRARY);
+    const auto settings = reinterpret_cast<decltype(&log_settings)>(
+        symbolOf(library, "_ZN7Pelmora6Native12log_settingsEv"));
     settings().file_name = fileName;
     LogInterface& log =
-        reinterpret_cast<decltype(&get_log)>(find("_ZN7Pelmora6Native7get_logEv"))();
+        reinterpret_cast<decltype(&get_log)>(symbolOf(library, "_ZN7Pelmora6Native7get_logEv"))();
     log.write(line);
-    FreeLibrary(library);
+    unloadLibrary(library);
 }
 
 TEST_F(LogStreamDeathTest, GoesOnWhenTheLibraryIsUnloadedAndLoadedAgain)

@@ -9,7 +9,7 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(OsVersion, Descriptions)
+TEST(OsVersion, DescriptionsAreByNameUpToVistaThenByNumber)
 {
     const std::tuple<OsVersion, const char*> rows[] = {
         {{0, 3, 11, 5, ""}, "Win32s"},

@@ -31,7 +31,7 @@ TEST(UnitElement, IsoFactorsAreTheExactPowersRoundedOnce)
     }
 }
 
-TEST(UnitElement, IsoForm)
+TEST(UnitElement, IsoFormIsDefinedForEveryNumber)
 {
     const std::tuple<UnitElement, double, UnitElement> rows[] = {
         {mL, 0.001, {UNIT_L, NONE, 1}},
@@ -52,12 +52,13 @@ TEST(UnitElement, IsoForm)
         {{UNIT_MIN, NONE, highest}, infinity, {UNIT_S, NONE, highest}},
     };
     for (const auto& [element, factor, iso] : rows) {
-        EXPECT_EQ(element.toIso().factor, factor) << testing::PrintToString(element);
+        SCOPED_TRACE(testing::PrintToString(element));
+        EXPECT_EQ(element.toIso().factor, factor);
         EXPECT_EQ(element.toIso().element, iso);
     }
 }
 
-TEST(UnitElement, ShiftOfThePrefix)
+TEST(UnitElement, PrefixShiftsBetweenNanoAndGiga)
 {
     const std::tuple<UnitElement, int, double, UnitPrefix> rows[] = {
         {mg, -1, 0.001 / 1e-6, MICRO},
@@ -75,9 +76,10 @@ TEST(UnitElement, ShiftOfThePrefix)
         {{UNIT_G, UnitPrefix(lowest), 1}, lowest, 0, NANO},
     };
     for (const auto& [element, steps, factor, moved] : rows) {
+        SCOPED_TRACE(testing::PrintToString(element));
         const ScaledElement shifted = element.shiftPrefix(steps);
         const UnitElement expected(element.unitType, moved, element.exponent);
-        EXPECT_EQ(shifted.factor, factor) << testing::PrintToString(element);
+        EXPECT_EQ(shifted.factor, factor);
         EXPECT_EQ(shifted.element, expected);
     }
 }

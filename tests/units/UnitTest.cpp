@@ -15,60 +15,65 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(Unit, ReducedForm)
+TEST(Unit, ReducedFormMergesLikeDimensions)
 {
-    const std::tuple<Unit, double, Unit> rows[] = {
-        {unitOf({}), 1, unitOf({})},
-        {unitOf({mg}), 1, unitOf({mg})},
-        {unitOf({{UNIT_G, KILO, 0}}), 1, unitOf({})},
-        {unitOf({{UNIT_G, KILO, 0}, mL}), 1, unitOf({mL})},
-        {unitOf({mg, perKg}), 0.001 * 0.001, unitOf({})},
-        {unitOf({mg, perKgBody}), 1, unitOf({mg, perKgBody})},
-        {unitOf({mL, perMin, s}), 1.0 / 60, unitOf({mL})},
-        {unitOf({perMin, hr}), 3600 * (1.0 / 60), unitOf({})},
-        {unitOf({m, cm}), 0.01, unitOf({{UNIT_M, NONE, 2}})},
-        {unitOf({{UNIT_INCH, NONE, 1}, {UNIT_MIUS, NONE, -1}}), 1 / 1609.34721869 * 0.0254,
-         unitOf({})},
-        {unitOf({s, m, {UNIT_IU, NONE, 1}, {UNIT_U, NONE, 1}}), 1,
-         unitOf({s, m, {UNIT_IU, NONE, 1}, {UNIT_U, NONE, 1}})},
-        {unitOf({{UnitTypeEnum(15), NONE, 1}, count}), 1,
-         unitOf({{UnitTypeEnum(15), NONE, 1}, count})},
-        {unitOf({mg, mL, mg}), 0.001 * 0.001, unitOf({{UNIT_G, NONE, 2}, mL})},
-        // An element of exponent 0 merges like any other, and so does one that was consumed with
-        // an element that stands for nothing.
-        {unitOf({mg, {UNIT_G, KILO, 0}}), 0.001, unitOf({g})},
-        {unitOf({mg, {UNIT_NUMBER_OF, KILO, 1}, mg}), 0.001 * 0.001 * 1000,
+    const Unit unlike = unitOf({s, m, {UNIT_IU, NONE, 1}, {UNIT_U, NONE, 1}});
+    const Unit outside = unitOf({{UnitTypeEnum(15), NONE, 1}, count});
+    const std::tuple<const char*, Unit, double, Unit> rows[] = {
+        {"nothing", unitOf({}), 1, unitOf({})},
+        {"alone", unitOf({mg}), 1, unitOf({mg})},
+        {"exponent 0 alone", unitOf({{UNIT_G, KILO, 0}}), 1, unitOf({})},
+        {"exponent 0 first", unitOf({{UNIT_G, KILO, 0}, mL}), 1, unitOf({mL})},
+        {"cancelled", unitOf({mg, perKg}), 0.001 * 0.001, unitOf({})},
+        {"body weight is another mass", unitOf({mg, perKgBody}), 1, unitOf({mg, perKgBody})},
+        {"times", unitOf({mL, perMin, s}), 1.0 / 60, unitOf({mL})},
+        {"the later factor first", unitOf({perMin, hr}), 3600 * (1.0 / 60), unitOf({})},
+        {"lengths", unitOf({m, cm}), 0.01, unitOf({{UNIT_M, NONE, 2}})},
+        {"lengths cancelled", unitOf({{UNIT_INCH, NONE, 1}, {UNIT_MIUS, NONE, -1}}),
+         1 / 1609.34721869 * 0.0254, unitOf({})},
+        {"unlike", unlike, 1, unlike},
+        {"unlike outside the table", outside, 1, outside},
+        {"in the place of the first", unitOf({mg, mL, mg}), 0.001 * 0.001,
+         unitOf({{UNIT_G, NONE, 2}, mL})},
+        {"exponent 0 merges too", unitOf({mg, {UNIT_G, KILO, 0}}), 0.001, unitOf({g})},
+        {"what was merged merges with what stands for nothing",
+         unitOf({mg, {UNIT_NUMBER_OF, KILO, 1}, mg}), 0.001 * 0.001 * 1000,
          unitOf({{UNIT_G, NONE, 2}, count})},
-        {unitOf({{UnitTypeEnum(-7), KILO, 1}, {UnitTypeEnum(-7), NONE, 1}}), 1000,
+        {"equal kinds outside the table",
+         unitOf({{UnitTypeEnum(-7), KILO, 1}, {UnitTypeEnum(-7), NONE, 1}}), 1000,
          unitOf({{UNIT_NUMBER_OF, NONE, 2}})},
-        {unitOf({{UNIT_S, NONE, highest}, s, perMin}), 1.0 / 60, unitOf({{UNIT_S, NONE, highest}})},
+        {"the sum wraps around", unitOf({{UNIT_S, NONE, highest}, s, perMin}), 1.0 / 60,
+         unitOf({{UNIT_S, NONE, highest}})},
     };
-    for (const auto& [unit, factor, reduced] : rows) {
-        EXPECT_EQ(unit.getReduced().factor, factor) << testing::PrintToString(unit);
+    for (const auto& [what, unit, factor, reduced] : rows) {
+        SCOPED_TRACE(what);
+        EXPECT_EQ(unit.getReduced().factor, factor);
         EXPECT_EQ(unit.getReduced().unit, reduced);
     }
 }
 
-TEST(Unit, IsoForm)
+TEST(Unit, IsoFormCountsEqualElementsOnce)
 {
-    const std::tuple<Unit, double, Unit> rows[] = {
-        {unitOf({}), 1, unitOf({})},
-        {unitOf({perMin, perKgBody, mg}), (1.0 / 60) * 0.001 * 0.001,
+    const std::tuple<const char*, Unit, double, Unit> rows[] = {
+        {"nothing", unitOf({}), 1, unitOf({})},
+        {"sorted by kind", unitOf({perMin, perKgBody, mg}), (1.0 / 60) * 0.001 * 0.001,
          unitOf({g, perS, {UNIT_G_PT, NONE, -1}})},
-        {unitOf({m, m}), 1, unitOf({m})}, // equal ISO elements count once
-        {unitOf({cm, m}), 0.01, unitOf({m})},
-        {unitOf({m, {UNIT_CM, NONE, -1}}), 100, unitOf({})},
-        {unitOf({m, {UNIT_CM, NONE, 2}, m}), 0.0001, unitOf({{UNIT_M, NONE, 3}})},
-        {unitOf({{UnitTypeEnum(99), NONE, 2}, mg, {UNIT_G, NONE, 0}}), 0.001,
+        {"equal elements", unitOf({m, m}), 1, unitOf({m})},
+        {"elements of equal ISO form", unitOf({cm, m}), 0.01, unitOf({m})},
+        {"cancelled", unitOf({m, {UNIT_CM, NONE, -1}}), 100, unitOf({})},
+        {"equal apart", unitOf({m, {UNIT_CM, NONE, 2}, m}), 0.0001, unitOf({{UNIT_M, NONE, 3}})},
+        {"outside the table, exponent 0",
+         unitOf({{UnitTypeEnum(99), NONE, 2}, mg, {UNIT_G, NONE, 0}}), 0.001,
          unitOf({g, {UNIT_NUMBER_OF, NONE, 2}})},
     };
-    for (const auto& [unit, factor, iso] : rows) {
-        EXPECT_EQ(unit.getAsIsoUnit().factor, factor) << testing::PrintToString(unit);
+    for (const auto& [what, unit, factor, iso] : rows) {
+        SCOPED_TRACE(what);
+        EXPECT_EQ(unit.getAsIsoUnit().factor, factor);
         EXPECT_EQ(unit.getAsIsoUnit().unit, iso);
     }
 }
 
-TEST(Unit, CompatibilityAndEquivalence)
+TEST(Unit, FactorsCountForEquivalenceNotForCompatibility)
 {
     const std::tuple<Unit, Unit, bool, bool> rows[] = {
         {unitOf({mg, perMin}), unitOf({g, perHr}), true, false},
@@ -83,13 +88,14 @@ TEST(Unit, CompatibilityAndEquivalence)
         {unitOf({g, g, g, g, g, g, g, g, g}), unitOf({mL}), false, false},
     };
     for (const auto& [a, b, compatible, equivalent] : rows) {
-        EXPECT_EQ(a.compatibleWith(b), compatible) << testing::PrintToString(a);
+        SCOPED_TRACE(testing::PrintToString(a) + " and " + testing::PrintToString(b));
+        EXPECT_EQ(a.compatibleWith(b), compatible);
         EXPECT_EQ(b.compatibleWith(a), compatible);
-        EXPECT_EQ(a.isEquivalent(b), equivalent) << testing::PrintToString(a);
+        EXPECT_EQ(a.isEquivalent(b), equivalent);
     }
 }
 
-TEST(Unit, Classes)
+TEST(Unit, ClassesNeedTheExactExponentInTheIsoForm)
 {
     const struct {
         Unit unit;
@@ -110,6 +116,7 @@ TEST(Unit, Classes)
         {unitOf({{UnitTypeEnum(15), NONE, 1}}), true, 0, ""},
     };
     for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.unit));
         std::string classes;
         classes += row.unit.unitIsRate() ? "R" : "";
         classes += row.unit.unitIsVolume() ? "V" : "";
@@ -117,13 +124,13 @@ TEST(Unit, Classes)
         classes += row.unit.unitIsPrPt() ? "P" : "";
         classes += row.unit.unitIsWeight() ? "W" : "";
         classes += row.unit.unitIsUnit() ? "U" : "";
-        EXPECT_EQ(classes, row.classes) << testing::PrintToString(row.unit);
-        EXPECT_EQ(row.unit.isValid(), row.valid) << testing::PrintToString(row.unit);
-        EXPECT_EQ(row.unit.getRateDivisor(), row.rateDivisor) << testing::PrintToString(row.unit);
+        EXPECT_EQ(classes, row.classes);
+        EXPECT_EQ(row.unit.isValid(), row.valid);
+        EXPECT_EQ(row.unit.getRateDivisor(), row.rateDivisor);
     }
 }
 
-TEST(Unit, ListEdits)
+TEST(Unit, EditsKeepTheOrder)
 {
     Unit unit = unitOf({mg, mL, mg});
     unit.removeUnitType(UNIT_MOL);

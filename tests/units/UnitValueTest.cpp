@@ -22,7 +22,7 @@ void expectValue(const UnitValue& actual, double value, const Unit& unit)
     EXPECT_EQ(actual.unit, unit);
 }
 
-TEST(UnitValue, Products)
+TEST(UnitValue, InvalidUnitsAreNeutralInProducts)
 {
     const UnitValue dose(2, unitOf({mg}));
     expectValue(dose.mul({3, unitOf({perMin})}), 6, unitOf({mg, perMin}));
@@ -32,7 +32,7 @@ TEST(UnitValue, Products)
     expectValue(dose.mul({3, Unit()}), 6, unitOf({mg}));
 }
 
-TEST(UnitValue, InversesAndQuotients)
+TEST(UnitValue, DividingByZeroGivesZero)
 {
     const UnitValue perVolume(4, unitOf({{UNIT_L, MILLI, -1}, {UNIT_G, KILO, 1}}));
     expectValue(perVolume.inverted(), 0.25, unitOf({mL, perKg}));
@@ -50,7 +50,7 @@ TEST(UnitValue, InversesAndQuotients)
     expectValue(UnitValue(6, unitOf({mL, perMin, s})).getReduced(), 6 * (1.0 / 60), unitOf({mL}));
 }
 
-TEST(UnitValue, Conversions)
+TEST(UnitValue, ConversionsMultiplyAndThenDivide)
 {
     const struct {
         double value;
@@ -72,31 +72,35 @@ TEST(UnitValue, Conversions)
     }
 }
 
-TEST(UnitValue, Normalisation)
+TEST(UnitValue, NormalisationShiftsOnlyThePrefixThatMayMove)
 {
     const auto grams = [](UnitPrefix prefix) { return unitOf({{UNIT_G, prefix, 1}, perHr}); };
     const Unit units = unitOf({{UNIT_U, NONE, 1}, perHr});
-    const std::tuple<double, Unit, int, double, Unit> rows[] = {
-        {0.05, grams(MILLI), 3, 0.05 * (0.001 / 1e-6), grams(MICRO)},
-        {0.00002, grams(NONE), 3, 0.00002 * (1 / 0.001) * (0.001 / 1e-6), grams(MICRO)},
-        {999, grams(MILLI), 3, 999, grams(MILLI)},
-        {1500, grams(MILLI), 3, 1500 * 0.001, grams(NONE)},
-        {999, grams(MILLI), 2, 999 * 0.001, grams(NONE)},
-        {0.1, grams(MILLI), 3, 0.1, grams(MILLI)},
-        {0.05, units, 3, 0.05, units},
-        {0.02, unitOf({perMin}), 3, 0.02, unitOf({perMin})},
-        {5e9, grams(GIGA), 3, 5e9, grams(GIGA)},
-        {0, grams(MILLI), 0, 0, grams(MILLI)},
-        {0, grams(MILLI), -1, 0, grams(GIGA)},
-        {-5, grams(MILLI), 3, -5 * (0.001 / 1e-6) * (1e-6 / 1e-9), grams(NANO)},
-        {0.01, unitOf({{UNIT_M, KILO, 2}}), 5, 0.01 * 1e6, unitOf({{UNIT_M, NONE, 2}})},
-        {-1, unitOf({{UNIT_G, NANO, 60}}), 3, -1, unitOf({{UNIT_G, NANO, 60}})},
+    const Unit overflowing = unitOf({{UNIT_G, NANO, 60}});
+    const std::tuple<const char*, double, Unit, int, double, Unit> rows[] = {
+        {"down", 0.05, grams(MILLI), 3, 0.05 * (0.001 / 1e-6), grams(MICRO)},
+        {"down twice", 0.00002, grams(NONE), 3, 0.00002 * (1 / 0.001) * (0.001 / 1e-6),
+         grams(MICRO)},
+        {"up", 1500, grams(MILLI), 3, 1500 * 0.001, grams(NONE)},
+        {"the largest that stays", 999, grams(MILLI), 3, 999, grams(MILLI)},
+        {"up with two digits", 999, grams(MILLI), 2, 999 * 0.001, grams(NONE)},
+        {"the smallest that stays", 0.1, grams(MILLI), 3, 0.1, grams(MILLI)},
+        {"a fixed prefix", 0.05, units, 3, 0.05, units},
+        {"no positive exponent", 0.02, unitOf({perMin}), 3, 0.02, unitOf({perMin})},
+        {"the largest prefix", 5e9, grams(GIGA), 3, 5e9, grams(GIGA)},
+        {"zero", 0, grams(MILLI), 0, 0, grams(MILLI)},
+        {"zero above the magnitude", 0, grams(MILLI), -1, 0, grams(GIGA)},
+        {"negative", -5, grams(MILLI), 3, -5 * (0.001 / 1e-6) * (1e-6 / 1e-9), grams(NANO)},
+        {"a square", 0.01, unitOf({{UNIT_M, KILO, 2}}), 5, 0.01 * 1e6, unitOf({{UNIT_M, NONE, 2}})},
+        {"a power out of range", -1, overflowing, 3, -1, overflowing},
     };
-    for (const auto& [value, unit, maxMagnitude, normalised, expected] : rows)
+    for (const auto& [what, value, unit, maxMagnitude, normalised, expected] : rows) {
+        SCOPED_TRACE(what);
         expectValue(UnitValue(value, unit).toNormalized(maxMagnitude), normalised, expected);
+    }
 }
 
-TEST(UnitValue, DecimalMagnitude)
+TEST(UnitValue, DecimalMagnitudeChangesAtPowersOfTen)
 {
     // Each power of ten begins a magnitude, from which zero is left out; the ends are open.
     const auto magnitudeOfPower = [](int power) {

@@ -27,16 +27,14 @@ inline Unit unitOf(std::initializer_list<UnitElement> elements)
     return unit;
 }
 
-inline void PrintTo(const UnitElement& element, std::ostream* out)
-{
-    *out << '(' << static_cast<int>(element.unitType) << ' ' << static_cast<int>(element.prefix)
-         << " ^" << element.exponent << ')';
-}
-
 inline void PrintTo(const Unit& unit, std::ostream* out)
 {
-    for (const UnitElement& element : unit.elements)
-        PrintTo(element, out);
+    *out << unit.toDebugString();
+}
+
+inline void PrintTo(const UnitElement& element, std::ostream* out)
+{
+    PrintTo(Unit(element), out);
 }
 
 } // namespace Pelmora::Native

@@ -15,7 +15,7 @@ namespace Pelmora::Native
 namespace
 {
 
-TEST(UnitText, Elements)
+TEST(UnitText, ElementsShowPrefixKindAndPower)
 {
     const std::tuple<UnitElement, GString, GString> rows[] = {
         {mg, u"mg", u"mg"},
@@ -32,12 +32,13 @@ TEST(UnitText, Elements)
         {{UNIT_MIUS, NONE, 1}, u"mi U.S.", u"mi U.S."},
     };
     for (const auto& [element, withSign, absolute] : rows) {
+        SCOPED_TRACE(testing::PrintToString(withSign));
         EXPECT_EQ(element.toString(false), withSign);
         EXPECT_EQ(element.toString(true), absolute);
     }
 }
 
-TEST(UnitText, Units)
+TEST(UnitText, UnitsShowNumeratorThenDenominator)
 {
     const std::tuple<Unit, GString, std::string> rows[] = {
         {unitOf({}), u"", "{  }"},
@@ -55,7 +56,7 @@ TEST(UnitText, Units)
     }
 }
 
-TEST(UnitText, Values)
+TEST(UnitText, ValuesHaveTheDigitsAskedFor)
 {
     const std::tuple<double, Unit, int, GString> rows[] = {
         {2.5, unitOf({mg, perKg}), 1, u"2.5 mg/kg"},
@@ -75,7 +76,7 @@ TEST(UnitText, Values)
     EXPECT_EQ(longest.size(), 1U + 309 + 1 + 400);
 }
 
-TEST(UnitText, NormalisedValues)
+TEST(UnitText, NormalisedValuesAreFilledUpToTheirDigits)
 {
     const Unit units = unitOf({{UNIT_U, NONE, 1}, perHr});
     const std::tuple<double, Unit, int, GString> rows[] = {
@@ -105,7 +106,7 @@ TEST(UnitText, NumbersOfTheClassicLocaleAreThoseOfAStream)
         general.precision(digits);
         general << value;
         std::string number = formatSignificant(value, digits);
-        ASSERT_EQ(number.substr(0, general.str().size()), general.str());
+        ASSERT_EQ(number.substr(0, general.str().size()), general.str()) << digits;
         std::ostringstream fixed;
         fixed.precision(digits);
         fixed << std::fixed << value;
