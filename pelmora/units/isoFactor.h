@@ -21,7 +21,6 @@ namespace Pelmora::Native
 inline constexpr std::int32_t powerTableReach = 7;
 
 /// By kind, prefix and exponent. Padded to powers of two so that indexing is a shift.
-
 using PowerRow = std::array<double, 16>;
 using PowerTable = std::array<std::array<PowerRow, 8>, 16>;
 

@@ -65,6 +65,8 @@ TEST(UnitValue, ConversionsMultiplyAndThenDivide)
         {7, unitOf({mg}), unitOf({hr}), 7 * 0.001 / 3600}, // without meaning, but a number
     };
     for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.unit) + " to " +
+                     testing::PrintToString(row.target));
         UnitValue value(row.value, row.unit);
         EXPECT_EQ(value.getConvertedValue(row.target), row.converted);
         value.convertTo(row.target);
