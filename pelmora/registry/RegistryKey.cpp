@@ -14,14 +14,6 @@ namespace Pelmora::Native
 namespace
 {
 
-struct KeyClose {
-    using pointer = HKEY;
-    void operator()(HKEY key) const { RegCloseKey(key); }
-};
-using KeyHandle = std::unique_ptr<HKEY, KeyClose>;
-
-constexpr const char* keyNotOpened = "key not opened";
-
 constexpr bool has(OpenMode mode, OpenMode flag)
 {
     return (static_cast<std::uint32_t>(mode) & static_cast<std::uint32_t>(flag)) != 0;
@@ -48,11 +40,6 @@ const BYTE* asBytes(const void* data)
 
 } // namespace
 
-struct RegistryKey::Record {
-    KeyHandle handle;
-    std::string lastError;
-};
-
 /// A value's data; null after a failure.
 struct RegistryKey::Bytes {
     std::unique_ptr<std::byte[]> data;
@@ -64,17 +51,23 @@ struct RegistryKey::Bytes {
     }
 };
 
-RegistryKey::RegistryKey() : record_(std::make_unique<Record>()) {}
-
-RegistryKey::RegistryKey(RegistryKey&& other) : RegistryKey() // NOLINT: see the header
+void RegistryKey::KeyClose::operator()(HKEY key) const noexcept
 {
-    record_.swap(other.record_);
+    RegCloseKey(key);
 }
 
-RegistryKey& RegistryKey::operator=(RegistryKey&& other) // NOLINT: see the header
+RegistryKey::RegistryKey() noexcept = default;
+
+RegistryKey::RegistryKey(RegistryKey&& other) noexcept
+    : handle_(std::move(other.handle_)), lastError_(std::exchange(other.lastError_, {}))
+{
+}
+
+RegistryKey& RegistryKey::operator=(RegistryKey&& other) noexcept
 {
     RegistryKey taken(std::move(other));
-    record_.swap(taken.record_);
+    handle_.swap(taken.handle_);
+    lastError_.swap(taken.lastError_);
     return *this;
 }
 
@@ -82,7 +75,7 @@ RegistryKey::~RegistryKey() = default;
 
 bool RegistryKey::open(HKEY root, const AnsiText& path, OpenMode mode)
 {
-    record_->handle.reset();
+    handle_.reset();
     if (!has(mode, OpenMode::WriteOrRead))
         return attempt(root, path, mode);
     const OpenMode create = has(mode, OpenMode::Create) ? OpenMode::Create : OpenMode();
@@ -102,7 +95,7 @@ bool RegistryKey::attempt(HKEY root, const AnsiText& path, OpenMode mode)
             : RegOpenKeyExA(root, path.c_str(), 0, accessOf(mode), &opened);
     if (!succeeded(status))
         return false;
-    record_->handle.reset(opened);
+    handle_.reset(opened);
     return true;
 }
 
@@ -111,21 +104,26 @@ bool RegistryKey::openMachineOrUser(const AnsiText& path, OpenMode mode)
     return open(HKEY_LOCAL_MACHINE, path, mode) || open(HKEY_CURRENT_USER, path, mode);
 }
 
+/// Whether there is a key to read from or write to; keeps that there is none.
+bool RegistryKey::isOpen() const
+{
+    if (handle_ == nullptr)
+        lastError_ = "key not opened";
+    return handle_ != nullptr;
+}
+
 /// Whether the call succeeded; keeps the text of its failure.
 bool RegistryKey::succeeded(long status) const
 {
-    record_->lastError = status == ERROR_SUCCESS
-                             ? std::string()
-                             : systemErrorText(static_cast<std::uint32_t>(status));
+    lastError_ = status == ERROR_SUCCESS ? std::string()
+                                         : systemErrorText(static_cast<std::uint32_t>(status));
     return status == ERROR_SUCCESS;
 }
 
 RegistryKey::Bytes RegistryKey::queryRaw(const std::string& name, unsigned long expectedType) const
 {
-    if (record_->handle == nullptr) {
-        record_->lastError = keyNotOpened;
+    if (!isOpen())
         return {};
-    }
     DWORD size = 0;
     if (!queryValue(name, expectedType, nullptr, size))
         return {};
@@ -141,15 +139,15 @@ bool RegistryKey::queryValue(const std::string& name, unsigned long expectedType
                              unsigned long& size) const
 {
     DWORD type = 0;
-    if (!succeeded(RegQueryValueExA(record_->handle.get(), name.c_str(), nullptr, &type,
+    if (!succeeded(RegQueryValueExA(handle_.get(), name.c_str(), nullptr, &type,
                                     reinterpret_cast<BYTE*>(room), // NOLINT: the system's own type
                                     &size)))
         return false;
     if (type == expectedType)
         return true;
     // The "<< " and the missing blank are meant: callers know the text.
-    record_->lastError = "The value: '" + name + "' has type: << " + std::to_string(type) +
-                         ", type expected:" + std::to_string(expectedType);
+    lastError_ = "The value: '" + name + "' has type: << " + std::to_string(type) +
+                 ", type expected:" + std::to_string(expectedType);
     return false;
 }
 
@@ -209,13 +207,11 @@ std::vector<GString> RegistryKey::readMultiString(const GString& name) const
 bool RegistryKey::write(const AnsiText& name, unsigned long type, const void* data,
                         std::size_t size)
 {
-    if (record_->handle == nullptr) {
-        record_->lastError = keyNotOpened;
+    if (!isOpen())
         return false;
-    }
     if (size > std::numeric_limits<DWORD>::max())
         return succeeded(ERROR_INVALID_PARAMETER);
-    return succeeded(RegSetValueExA(record_->handle.get(), name.c_str(), 0, type, asBytes(data),
+    return succeeded(RegSetValueExA(handle_.get(), name.c_str(), 0, type, asBytes(data),
                                     static_cast<DWORD>(size)));
 }
 
@@ -268,31 +264,30 @@ bool RegistryKey::writeMultiString(const AnsiText& name, std::initializer_list<A
 
 bool RegistryKey::deleteValue(const AnsiText& name)
 {
-    return record_->handle != nullptr &&
-           RegDeleteValueA(record_->handle.get(), name.c_str()) == ERROR_SUCCESS;
+    return handle_ != nullptr && RegDeleteValueA(handle_.get(), name.c_str()) == ERROR_SUCCESS;
 }
 
 long RegistryKey::flush()
 {
-    return RegFlushKey(record_->handle.get());
+    return RegFlushKey(handle_.get());
 }
 
 std::string RegistryKey::lastError() const
 {
-    return record_->lastError;
+    return lastError_;
 }
 
 ValueNameIterator RegistryKey::valueNamesBegin() const
 {
-    return {record_->handle.get(), 0};
+    return {handle_.get(), 0};
 }
 
 ValueNameIterator RegistryKey::valueNamesEnd() const
 {
     DWORD count = 0;
-    RegQueryInfoKeyA(record_->handle.get(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                     &count, nullptr, nullptr, nullptr, nullptr);
-    return {record_->handle.get(), count};
+    RegQueryInfoKeyA(handle_.get(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count,
+                     nullptr, nullptr, nullptr, nullptr);
+    return {handle_.get(), count};
 }
 
 ValueNameIterator& ValueNameIterator::operator++() noexcept

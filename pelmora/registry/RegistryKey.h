@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <windows.h>
@@ -78,9 +79,9 @@ private:
 class PELMORA_API RegistryKey
 {
 public:
-    RegistryKey();
-    RegistryKey(RegistryKey&& other);            // NOLINT: leaves a new record, which is allocated
-    RegistryKey& operator=(RegistryKey&& other); // NOLINT: as above
+    RegistryKey() noexcept;
+    RegistryKey(RegistryKey&& other) noexcept;
+    RegistryKey& operator=(RegistryKey&& other) noexcept;
     ~RegistryKey();
 
     /// Closes the key that is open, whatever follows; whether the new one is open now.
@@ -143,7 +144,11 @@ public:
 
 private:
     struct Bytes;
+    struct KeyClose {
+        void operator()(HKEY key) const noexcept;
+    };
 
+    bool isOpen() const;
     bool attempt(HKEY root, const AnsiText& path, OpenMode mode);
     bool succeeded(long status) const;
     bool queryValue(const std::string& name, unsigned long expectedType, std::byte* room,
@@ -151,8 +156,8 @@ private:
     Bytes queryRaw(const std::string& name, unsigned long expectedType) const;
     bool write(const AnsiText& name, unsigned long type, const void* data, std::size_t size);
 
-    struct Record;
-    std::unique_ptr<Record> record_;
+    std::unique_ptr<std::remove_pointer_t<HKEY>, KeyClose> handle_;
+    mutable std::string lastError_;
 };
 
 } // namespace Pelmora::Native
