@@ -1,6 +1,6 @@
 // Any bytes as a dialog template and as a bitmap resource.
 
-#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/DialogTemplateBytes.h"
 #include "pelmora/gui/dibLayout.h"
 
 #include <cstdlib>
@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     if (const auto pixels = dibPixelOffset(bytes); pixels && *pixels > size)
         std::abort();
 
-    DialogTemplate dialog(bytes);
+    DialogTemplateBytes dialog(bytes);
     for (int round = 0; round < 3 && dialog.valid(); ++round) {
         const GString caption = dialog.getCaption();
         dialog.setCaption(u"Bedside");

@@ -23,8 +23,8 @@ pelmora_status pelmora_dialog_template_create(const void* bytes, size_t size,
 {
     return giveHandle(dialog, "dialog", [&] {
         auto made = std::make_unique<pelmora_dialog_template>();
-        made->native =
-            Native::DialogTemplate(required(static_cast<const std::byte*>(bytes), size, "bytes"));
+        made->native = Native::DialogTemplateBytes(
+            required(static_cast<const std::byte*>(bytes), size, "bytes"));
         if (!made->native.valid())
             throw Failure{PELMORA_MALFORMED, "the bytes are not a whole dialog template"};
         return made;
@@ -54,7 +54,7 @@ pelmora_status pelmora_dialog_template_caption(const pelmora_dialog_template* di
 pelmora_status pelmora_dialog_template_set_caption(pelmora_dialog_template* dialog,
                                                    const pelmora_char16* caption)
 {
-    return change(dialog, [&](Native::DialogTemplate& native) {
+    return change(dialog, [&](Native::DialogTemplateBytes& native) {
         constexpr size_t longest = 255;
         const Native::WideView text = requiredText(caption, "caption");
         native.setCaption(text);
@@ -78,7 +78,7 @@ pelmora_status pelmora_dialog_template_font(const pelmora_dialog_template* dialo
 pelmora_status pelmora_dialog_template_set_font(pelmora_dialog_template* dialog, const char* face,
                                                 int16_t points)
 {
-    return change(dialog, [&](Native::DialogTemplate& native) {
+    return change(dialog, [&](Native::DialogTemplateBytes& native) {
         return native.setFont(std::string(requiredText(face, "face")), points);
     });
 }
@@ -87,13 +87,13 @@ pelmora_status pelmora_dialog_template_set_font_size(pelmora_dialog_template* di
                                                      int16_t points)
 {
     return change(dialog,
-                  [&](Native::DialogTemplate& native) { return native.setFontSize(points); });
+                  [&](Native::DialogTemplateBytes& native) { return native.setFontSize(points); });
 }
 
 pelmora_status pelmora_dialog_template_set_position(pelmora_dialog_template* dialog, int32_t x,
                                                     int32_t y)
 {
-    return change(dialog, [&](Native::DialogTemplate& native) {
+    return change(dialog, [&](Native::DialogTemplateBytes& native) {
         native.setPosition({x, y});
         return true;
     });
@@ -102,7 +102,7 @@ pelmora_status pelmora_dialog_template_set_position(pelmora_dialog_template* dia
 pelmora_status pelmora_dialog_template_set_size(pelmora_dialog_template* dialog, int32_t width,
                                                 int32_t height)
 {
-    return change(dialog, [&](Native::DialogTemplate& native) {
+    return change(dialog, [&](Native::DialogTemplateBytes& native) {
         native.setSize({width, height});
         return true;
     });

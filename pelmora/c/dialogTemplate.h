@@ -1,8 +1,8 @@
 #pragma once
 
 #include "pelmora/c/border.h"
-#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/DialogTemplateBytes.h"
 
 struct pelmora_dialog_template {
-    Pelmora::Native::DialogTemplate native;
+    Pelmora::Native::DialogTemplateBytes native;
 };

@@ -1,172 +1,88 @@
 #include "pelmora/gui/DialogTemplate.h"
-
+#include "pelmora/gui/FontUtil.h"
 #include "pelmora/gui/dialogLayout.h"
-#include "pelmora/gui/littleEndian.h"
+#include "pelmora/gui/gdi.h"
+#include "pelmora/gui/resources.h"
 
-#include <algorithm>
-#include <cstring>
-#include <limits>
-#include <optional>
+#include <string_view>
 
 namespace Pelmora::Native
 {
 namespace
 {
 
-/// What a caption may grow by, and a font with it, without a new buffer.
-constexpr std::size_t spareBytes = 578;
+constexpr DialogPoint none = {-1, -1};
 
-std::optional<DialogParts> partsOf(std::span<const std::byte> buffer, std::int32_t size)
+DialogPoint systemBaseUnits()
 {
-    return dialogParts(buffer.first(static_cast<std::size_t>(size)));
+    const auto units = static_cast<DWORD>(GetDialogBaseUnits());
+    return {LOWORD(units), HIWORD(units)};
 }
 
-GString readText(std::span<const std::byte> bytes, std::size_t at, std::size_t length)
+HFONT fontOf(const DialogTemplate& dialog, const Gdi::ScreenDc& screen)
 {
-    WideString text(length, 0);
-    for (std::size_t i = 0; i < length; ++i)
-        text[i] = static_cast<WideChar>(readNumber<std::uint16_t>(bytes, at + 2 * i));
-    return text;
+    const auto [face, pointSize] = dialog.getFont();
+    const int height = -MulDiv(pointSize, GetDeviceCaps(screen.get(), LOGPIXELSY), 72);
+    return CreateFontA(height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET,
+                       OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH,
+                       face.c_str());
 }
 
-/// With a NUL behind it.
-void writeText(std::span<std::byte> bytes, std::size_t at, WideView text)
+HFONT messageFont()
 {
-    for (std::size_t i = 0; i <= text.size(); ++i)
-        writeNumber(bytes, at + 2 * i,
-                    static_cast<std::uint16_t>(i < text.size() ? text[i] : WideChar(0)));
+    NONCLIENTMETRICSA metrics = {};
+    metrics.cbSize = sizeof metrics;
+    if (SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) == 0)
+        return nullptr;
+    return CreateFontIndirectA(&metrics.lfMessageFont);
 }
 
 } // namespace
 
-void DialogTemplate::assign(std::span<const std::byte> bytes)
+bool DialogTemplate::load(HMODULE module, std::uint16_t resource)
 {
-    // No template is larger than its size can say, nor than a few hundred kilobytes.
-    constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
-    bytes = bytes.first(std::min(bytes.size(), most));
-    std::vector<std::byte> buffer(bytes.size() + spareBytes);
-    std::copy(bytes.begin(), bytes.end(), buffer.begin());
-    buffer_ = std::move(buffer);
-    size_ = static_cast<std::int32_t>(bytes.size());
+    const auto bytes = findResource(module, resource, ResourceType::dialog);
+    if (bytes.data() == nullptr)
+        return false;
+    assign(bytes);
+    return true;
 }
 
-/// Moves the items for a font block that will end so many bytes further on, or, for less than 0,
-/// earlier.
-void DialogTemplate::makeRoom(const DialogParts& parts, std::ptrdiff_t growth)
+DialogPoint DialogTemplate::getBaseUnits() const
 {
-    const std::size_t fontEnd = parts.items;
-    const std::size_t newEnd = fontEnd + static_cast<std::size_t>(growth);
-    const std::size_t from = alignedTo4(fontEnd);
-    const std::size_t to = alignedTo4(newEnd);
-    const auto used = static_cast<std::size_t>(size_);
-    const std::size_t itemBytes = parts.itemCount > 0 ? used - from : 0;
-    // A template without items need not end at a multiple of 4: it is as long as its font block.
-    const std::size_t newUsed = std::max(used + to - from, newEnd);
-    if (newUsed > buffer_.size())
-        buffer_.resize(newUsed + spareBytes);
-    std::memmove(buffer_.data() + to, buffer_.data() + from, itemBytes);
-    size_ = static_cast<std::int32_t>(newUsed);
-}
-
-bool DialogTemplate::valid() const noexcept
-{
-    return size_ > 0 && partsOf(buffer_, size_).has_value();
-}
-
-GString DialogTemplate::getCaption() const
-{
-    const auto parts = partsOf(buffer_, size_);
-    return parts ? readText(buffer_, parts->caption, parts->captionLength) : GString();
-}
-
-void DialogTemplate::setCaption(const GString& caption)
-{
-    constexpr std::ptrdiff_t mostGrowth = 512;
-    constexpr std::size_t longest = 255;
-    const auto parts = partsOf(buffer_, size_);
+    static constexpr std::string_view letters =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    const auto parts = dialogParts(bytes());
     if (!parts)
-        return;
-    WideView text = caption;
-    text = text.substr(0, text.find(WideChar(0)));
-    const auto growthTo = [&](std::size_t length) {
-        return 2 * (static_cast<std::ptrdiff_t>(length) -
-                    static_cast<std::ptrdiff_t>(parts->captionLength));
-    };
-    if (growthTo(text.size()) > mostGrowth)
-        return;
-    text = text.substr(0, longest);
-    if (const std::ptrdiff_t growth = growthTo(text.size()); growth != 0) {
-        // Items that move towards the caption overwrite what is left of the font block.
-        const auto font = buffer_.begin() + static_cast<std::ptrdiff_t>(parts->font);
-        const std::vector<std::byte> fontBlock(
-            font, font + static_cast<std::ptrdiff_t>(parts->fontBlockSize()));
-        makeRoom(*parts, growth);
-        std::copy(fontBlock.begin(), fontBlock.end(),
-                  buffer_.begin() + static_cast<std::ptrdiff_t>(parts->font) + growth);
-    }
-    writeText(buffer_, parts->caption, text);
+        return none;
+    const Gdi::ScreenDc screen;
+    Font font;
+    if (!parts->hasFont || !font.attach(parts->hasFace ? fontOf(*this, screen) : messageFont()))
+        return systemBaseUnits();
+    const Gdi::Selection selected(screen.get(), font.get());
+    TEXTMETRICA metrics = {};
+    GetTextMetricsA(screen.get(), &metrics);
+    SIZE width = {};
+    const auto count = static_cast<int>(letters.size());
+    GetTextExtentPoint32A(screen.get(), letters.data(), count, &width);
+    return {static_cast<int>(width.cx + count / 2) / count,
+            static_cast<int>(metrics.tmHeight + metrics.tmExternalLeading)};
 }
 
-std::pair<std::string, int> DialogTemplate::getFont() const
+DialogPoint DialogTemplate::dialogToPixels(DialogPoint units) const
 {
-    const auto parts = partsOf(buffer_, size_);
-    if (!parts || !parts->hasFont)
-        return {"", -1};
-    const auto pointSize = readNumber<std::int16_t>(buffer_, parts->font);
-    if (!parts->hasFace)
-        return {"", pointSize};
-    const std::size_t face = parts->font + parts->layout->fontFixedSize;
-    return {readText(buffer_, face, parts->faceLength).to_narrow(), pointSize};
+    if (!valid())
+        return none;
+    const DialogPoint base = getBaseUnits();
+    return {MulDiv(units.x, base.x, 4), MulDiv(units.y, base.y, 8)};
 }
 
-bool DialogTemplate::setFont(const AnsiText& face, std::int16_t pointSize)
+DialogPoint DialogTemplate::pixelsToDialog(DialogPoint pixels) const
 {
-    constexpr std::size_t faceRoom = 32; // with the NUL
-    const auto parts = partsOf(buffer_, size_);
-    if (!parts || pointSize == messageFontSize)
-        return false;
-    const GString text(face.narrow());
-    const bool fits = text.size() < faceRoom;
-    const std::size_t fixed = parts->layout->fontFixedSize;
-    const std::size_t newSize = fixed + (fits ? 2 * (text.size() + 1) : 0);
-    makeRoom(*parts, static_cast<std::ptrdiff_t>(newSize) -
-                         static_cast<std::ptrdiff_t>(parts->fontBlockSize()));
-    const std::span<std::byte> bytes(buffer_);
-    const std::size_t style = parts->layout->style;
-    writeNumber(bytes, style, readNumber<std::uint32_t>(bytes, style) | setFontStyle);
-    if (!parts->hasFace) // weight, italic and character set of a new block: those of no choice
-        std::fill_n(buffer_.begin() + static_cast<std::ptrdiff_t>(parts->font), fixed, std::byte());
-    writeNumber(bytes, parts->font, pointSize);
-    if (fits)
-        writeText(bytes, parts->font + fixed, text);
-    return true;
-}
-
-bool DialogTemplate::setFontSize(std::int16_t pointSize)
-{
-    const auto parts = partsOf(buffer_, size_);
-    if (!parts || !parts->hasFace || pointSize == messageFontSize)
-        return false;
-    writeNumber(std::span(buffer_), parts->font, pointSize);
-    return true;
-}
-
-void DialogTemplate::setPosition(DialogPoint position)
-{
-    if (const auto parts = partsOf(buffer_, size_)) {
-        const std::span<std::byte> bytes(buffer_);
-        writeNumber(bytes, parts->layout->position, static_cast<std::uint16_t>(position.x));
-        writeNumber(bytes, parts->layout->position + 2, static_cast<std::uint16_t>(position.y));
-    }
-}
-
-void DialogTemplate::setSize(DialogSize size)
-{
-    if (const auto parts = partsOf(buffer_, size_)) {
-        const std::span<std::byte> bytes(buffer_);
-        writeNumber(bytes, parts->layout->size, static_cast<std::uint16_t>(size.width));
-        writeNumber(bytes, parts->layout->size + 2, static_cast<std::uint16_t>(size.height));
-    }
+    if (!valid())
+        return none;
+    const DialogPoint base = getBaseUnits();
+    return {MulDiv(pixels.x, 4, base.x), MulDiv(pixels.y, 8, base.y)};
 }
 
 } // namespace Pelmora::Native

@@ -5,7 +5,8 @@
 namespace Pelmora::Native
 {
 
-std::optional<INT_PTR> ModalDialog::run(const DialogTemplate& dialog, HWND parent, HMODULE module)
+std::optional<INT_PTR> ModalDialog::run(const DialogTemplateBytes& dialog, HWND parent,
+                                        HMODULE module)
 {
     begun_ = false;
     ended_ = false;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pelmora/export.h"
-#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/DialogTemplateBytes.h"
 
 #include <exception>
 #include <optional>
@@ -32,7 +32,8 @@ public:
     /// own loop then. `module` is where its pictures and menus are, null for the program itself.
     /// Requires: it does not run already; a window class that the template names has
     /// DLGWINDOWEXTRA bytes.
-    std::optional<INT_PTR> run(const DialogTemplate& dialog, HWND parent, HMODULE module = nullptr);
+    std::optional<INT_PTR> run(const DialogTemplateBytes& dialog, HWND parent,
+                               HMODULE module = nullptr);
 
     /// Whether the dialog of the last `run` was made.
     bool begun() const noexcept { return begun_; }

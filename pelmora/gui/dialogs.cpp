@@ -67,7 +67,7 @@ INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, HWND parent,
     return IDCANCEL;
 }
 
-void setDialogTemplateFont(DialogTemplate& dialog)
+void setDialogTemplateFont(DialogTemplateBytes& dialog)
 {
     const bool isNonAnsi = FontUtil::isNonAnsiSystem();
     applyFontRule(dialog, isNonAnsi, !isNonAnsi && FontUtil::hasSmallFonts());

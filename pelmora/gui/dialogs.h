@@ -23,7 +23,7 @@ PELMORA_API INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, 
 /// Gives a template the font that the system reads best at a small size: where the system's
 /// character set is not ANSI, 7 points of the template's own face, if it has one; elsewhere "Small
 /// Fonts" of 7 points, if that is installed.
-PELMORA_API void setDialogTemplateFont(DialogTemplate& dialog);
+PELMORA_API void setDialogTemplateFont(DialogTemplateBytes& dialog);
 
 /// Disables a control. If it, or a window within it, has the keyboard focus, that goes to the next
 /// control in tab order first, when there is one. Whether the control was disabled before.

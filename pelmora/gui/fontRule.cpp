@@ -3,7 +3,7 @@
 namespace Pelmora::Native
 {
 
-void applyFontRule(DialogTemplate& dialog, bool isNonAnsiSystem, bool hasSmallFonts)
+void applyFontRule(DialogTemplateBytes& dialog, bool isNonAnsiSystem, bool hasSmallFonts)
 {
     constexpr std::int16_t pointSize = 7;
     if (isNonAnsiSystem)

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/DialogTemplateBytes.h"
 
 namespace Pelmora::Native
 {
 
 /// What `setDialogTemplateFont` does to a template on a system with these properties.
-void applyFontRule(DialogTemplate& dialog, bool isNonAnsiSystem, bool hasSmallFonts);
+void applyFontRule(DialogTemplateBytes& dialog, bool isNonAnsiSystem, bool hasSmallFonts);
 
 } // namespace Pelmora::Native

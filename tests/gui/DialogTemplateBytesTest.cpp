@@ -1,4 +1,4 @@
-#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/DialogTemplateBytes.h"
 
 #include "pelmora/gui/dialogLayout.h"
 #include "pelmora/gui/fontRule.h"
@@ -17,7 +17,7 @@ namespace
 
 using Font = std::pair<std::string, int>;
 
-Bytes bytesOf(const DialogTemplate& dialog)
+Bytes bytesOf(const DialogTemplateBytes& dialog)
 {
     return {dialog.bytes().begin(), dialog.bytes().end()};
 }
@@ -37,7 +37,7 @@ Bytes withoutGap(Bytes bytes)
 }
 
 /// The template must be the one that would have been written with these contents.
-void expectSame(const DialogTemplate& dialog, const SampleDialog& sample)
+void expectSame(const DialogTemplateBytes& dialog, const SampleDialog& sample)
 {
     EXPECT_TRUE(withoutGap(bytesOf(dialog)) == withoutGap(built(sample)));
     EXPECT_EQ(dialog.getCaption(), textOf(sample.caption));
@@ -62,12 +62,12 @@ std::vector<SampleDialog> samples()
     return all;
 }
 
-TEST(DialogTemplate, CaptionAndFontAreReplaced)
+TEST(DialogTemplateBytes, CaptionAndFontAreReplaced)
 {
     const std::u16string captions[] = {u"", u"Infusion \u3042", std::u16string(255, u'c'), u"x"};
     const std::u16string faces[] = {u"", u"Caf\u00E9", std::u16string(31, u'f'), u"Arial"};
     for (SampleDialog sample : samples()) {
-        DialogTemplate dialog(built(sample));
+        DialogTemplateBytes dialog(built(sample));
         expectSame(dialog, sample);
         for (const std::u16string& caption : captions) {
             sample.caption = caption;
@@ -90,7 +90,7 @@ TEST(DialogTemplate, CaptionAndFontAreReplaced)
     }
 }
 
-TEST(DialogTemplate, CaptionsGrowByWhatIsAllowedAndAreCut)
+TEST(DialogTemplateBytes, CaptionsGrowByWhatIsAllowedAndAreCut)
 {
     const std::tuple<std::size_t, std::size_t, std::size_t> rows[] = {
         // length of the old caption and the new one, length afterwards
@@ -98,18 +98,18 @@ TEST(DialogTemplate, CaptionsGrowByWhatIsAllowedAndAreCut)
     };
     for (const auto& [before, length, afterwards] : rows) {
         SampleDialog sample = {.caption = std::u16string(before, u'x')};
-        DialogTemplate dialog(built(sample));
+        DialogTemplateBytes dialog(built(sample));
         dialog.setCaption(textOf(std::u16string(length, u'n') + u'\0' + u"unseen"));
         sample.caption = std::u16string(afterwards, afterwards == before ? u'x' : u'n');
         expectSame(dialog, sample);
     }
 }
 
-TEST(DialogTemplate, AFaceThatDoesNotFitLeavesNone)
+TEST(DialogTemplateBytes, AFaceThatDoesNotFitLeavesNone)
 {
     for (const bool isExtended : {false, true}) {
         Bytes bytes = built({.isExtended = isExtended, .caption = u"x", .face = u"Arial"});
-        DialogTemplate dialog(bytes);
+        DialogTemplateBytes dialog(bytes);
         EXPECT_TRUE(dialog.setFont(std::string(32, 'f'), 8));
         const auto face = bytes.begin() + (isExtended ? 40 : 28);
         bytes.erase(face, face + 12); // with its NUL; everything is aligned before and afterwards
@@ -118,7 +118,7 @@ TEST(DialogTemplate, AFaceThatDoesNotFitLeavesNone)
 }
 
 /// Whether no operation does anything.
-bool takesEmptyPaths(DialogTemplate dialog)
+bool takesEmptyPaths(DialogTemplateBytes dialog)
 {
     const Bytes before = bytesOf(dialog);
     dialog.setCaption(u"caption");
@@ -129,28 +129,28 @@ bool takesEmptyPaths(DialogTemplate dialog)
            dialog.getFont() == Font("", -1) && bytesOf(dialog) == before;
 }
 
-TEST(DialogTemplate, WhatIsNoWholeTemplateIsLeftAlone)
+TEST(DialogTemplateBytes, WhatIsNoWholeTemplateIsLeftAlone)
 {
     for (SampleDialog sample : samples()) {
         const Bytes bytes = built(sample);
         for (std::size_t size = 0; size < bytes.size(); ++size)
-            EXPECT_TRUE(takesEmptyPaths(DialogTemplate(std::span(bytes).first(size)))) << size;
+            EXPECT_TRUE(takesEmptyPaths(DialogTemplateBytes(std::span(bytes).first(size)))) << size;
         for (const unsigned int at : {16U, 0U}) { // the number of items, the version
             auto lying = bytes;
             lying[sample.isExtended ? at : 8U] = std::byte(9);
-            EXPECT_TRUE(takesEmptyPaths(DialogTemplate(lying)));
+            EXPECT_TRUE(takesEmptyPaths(DialogTemplateBytes(lying)));
         }
-        DialogTemplate dialog(bytes);
+        DialogTemplateBytes dialog(bytes);
         dialog.setPosition({-2, 0x1234});
         dialog.setSize({1, 0x8000});
-        const DialogTemplate taken = std::move(dialog);
+        const DialogTemplateBytes taken = std::move(dialog);
         EXPECT_TRUE(takesEmptyPaths(dialog)); // NOLINT: without a template
         sample.positionAndSize = {0xFFFE, 0x1234, 1, 0x8000};
         expectSame(taken, sample);
     }
 }
 
-TEST(DialogTemplate, FontRule)
+TEST(DialogTemplateBytes, FontRule)
 {
     const std::tuple<bool, bool, bool, Font> rows[] = {
         // another character set, small fonts, a font, the font afterwards
@@ -159,7 +159,7 @@ TEST(DialogTemplate, FontRule)
         {false, true, false, {"Small Fonts", 7}},  {true, true, false, {"", -1}},
     };
     for (const auto& [isNonAnsi, hasSmallFonts, hasFont, font] : rows) {
-        DialogTemplate dialog(built({.hasFont = hasFont}));
+        DialogTemplateBytes dialog(built({.hasFont = hasFont}));
         applyFontRule(dialog, isNonAnsi, hasSmallFonts);
         EXPECT_EQ(dialog.getFont(), font);
     }
