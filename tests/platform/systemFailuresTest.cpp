@@ -1,6 +1,5 @@
 // The import pointers of three functions are defined here, so that the library calls these instead.
 
-#include "pelmora/log/osVersion.h"
 #include "pelmora/platform/systemVersion.h"
 #include "pelmora/platform/temporaryFolder.h"
 #include "pelmora/platform/wholeFile.h"
