@@ -9,8 +9,6 @@ namespace Pelmora::Native
 namespace
 {
 
-constexpr LCID userDefaultLocale = 0x400;
-
 /// GetDateFormatA or GetTimeFormatA.
 using Format = int(WINAPI*)(LCID, DWORD, const SYSTEMTIME*, const char*, char*, int);
 
@@ -20,7 +18,7 @@ std::string now(Format format, DWORD flags)
     SYSTEMTIME local = {};
     GetLocalTime(&local);
     std::array<char, room> text = {};
-    if (format(userDefaultLocale, flags, &local, nullptr, text.data(), room) == 0)
+    if (format(LOCALE_USER_DEFAULT, flags, &local, nullptr, text.data(), room) == 0)
         return {};
     return text.data();
 }

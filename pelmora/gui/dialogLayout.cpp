@@ -9,8 +9,26 @@ namespace Pelmora::Native
 namespace
 {
 
-constexpr DialogLayout classic = {false, 0, 8, 10, 14, 18, 18, 2};
-constexpr DialogLayout extended = {true, 12, 16, 18, 22, 26, 24, 6};
+constexpr DialogLayout classic = {
+    .extended = false,
+    .style = 0,
+    .itemCount = 8,
+    .position = 10,
+    .size = 14,
+    .headerSize = 18,
+    .itemHeaderSize = 18,
+    .fontFixedSize = 2,
+};
+constexpr DialogLayout extended = {
+    .extended = true,
+    .style = 12,
+    .itemCount = 16,
+    .position = 18,
+    .size = 22,
+    .headerSize = 26,
+    .itemHeaderSize = 24,
+    .fontFixedSize = 6,
+};
 
 constexpr std::uint16_t ordinalMark = 0xFFFF;
 

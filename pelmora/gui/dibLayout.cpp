@@ -9,7 +9,8 @@ namespace
 
 constexpr std::uint64_t smallestHeader = 40;
 
-enum Compression : std::uint32_t {
+/// Those that matter here; all others are laid out as uncompressed pixels are.
+enum class Compression : std::uint32_t {
     runLength8 = 1,
     runLength4 = 2,
     bitFields = 3,
@@ -24,17 +25,22 @@ struct Header {
     std::int64_t width;
     std::int64_t height; ///< negative: top-down
     std::uint32_t bitCount;
-    std::uint32_t compression;
+    Compression compression;
     std::uint64_t imageSize;
     std::uint64_t coloursUsed;
 };
 
 Header headerOf(std::span<const std::byte> resource)
 {
-    return {readNumber<std::uint32_t>(resource, 0),  readNumber<std::int32_t>(resource, 4),
-            readNumber<std::int32_t>(resource, 8),   readNumber<std::uint16_t>(resource, 14),
-            readNumber<std::uint32_t>(resource, 16), readNumber<std::uint32_t>(resource, 20),
-            readNumber<std::uint32_t>(resource, 32)};
+    return {
+        .size = readNumber<std::uint32_t>(resource, 0),
+        .width = readNumber<std::int32_t>(resource, 4),
+        .height = readNumber<std::int32_t>(resource, 8),
+        .bitCount = readNumber<std::uint16_t>(resource, 14),
+        .compression = Compression(readNumber<std::uint32_t>(resource, 16)),
+        .imageSize = readNumber<std::uint32_t>(resource, 20),
+        .coloursUsed = readNumber<std::uint32_t>(resource, 32),
+    };
 }
 
 /// None for a combination that is refused.
@@ -59,9 +65,10 @@ std::optional<std::uint64_t> colourTableEntries(const Header& header)
     }
 }
 
-/// Whether these many bytes hold the pixels.
+/// Whether the pixels need no more than `room` bytes.
 bool fits(const Header& header, std::uint64_t room)
 {
+    using enum Compression;
     switch (header.compression) {
     case runLength8:
     case runLength4:
@@ -78,13 +85,14 @@ bool fits(const Header& header, std::uint64_t room)
     return line == 0 || lines <= room / line;
 }
 
-/// Whether there are the colour masks that some compressions have at a fixed place, within the
-/// header or behind it.
+/// Whether a resource of `size` bytes holds the colour masks that its compression needs. Their
+/// place is fixed: in a long header, or directly after a short one.
 bool hasItsMasks(const Header& header, std::uint64_t size)
 {
-    constexpr std::uint64_t behindMasks = smallestHeader + 16;
-    const bool needsMasks = header.compression == bitFields || header.compression == alphaBitFields;
-    return !needsMasks || size >= behindMasks;
+    constexpr std::uint64_t endOfMasks = smallestHeader + 16;
+    const bool needsMasks = header.compression == Compression::bitFields ||
+                            header.compression == Compression::alphaBitFields;
+    return !needsMasks || size >= endOfMasks;
 }
 
 } // namespace

@@ -66,14 +66,14 @@ void drawSolidRect(HDC dc, int left, int top, int right, int bottom, COLORREF co
     const Gdi::Selection fill(dc, brush.get());
     const auto difference = [](int a, int b) { return std::int64_t(a) - b; };
     if (difference(right, left) > 2 && difference(bottom, top) > 2) {
-        // Larger than asked for, to make up for the pen, which is null.
+        // One unit larger on every side, to make up for the null pen.
         const auto moved = [&](int edge, int by) {
             return static_cast<int>(difference(edge, -by));
         };
         Rectangle(dc, moved(left, -1), moved(top, -1), moved(right, 1), moved(bottom, 1));
         return;
     }
-    // Paints nothing, on purpose: the pen is null here, too.
+    // A small rectangle gets an outline only, and the null pen paints none: both on purpose.
     POINT before = {};
     MoveToEx(dc, left, top, &before);
     LineTo(dc, right, top);

@@ -1,32 +1,24 @@
 #pragma once
 
+#include <memory>
+#include <type_traits>
+
 #include <windows.h>
 
-// Owners of what GDI lends. None is ever copied.
+// Internal: owners of what GDI lends.
 
 namespace Pelmora::Native::Gdi
 {
 
-/// A pen or a brush of one's own; may be null.
-template <class Handle>
-class Object
-{
-public:
-    explicit Object(Handle handle) noexcept : handle_(handle) {}
-    Object(const Object&) = delete;
-    Object& operator=(const Object&) = delete;
-    ~Object()
-    {
-        if (handle_ != nullptr)
-            DeleteObject(handle_);
-    }
-    Handle get() const noexcept { return handle_; }
-
-private:
-    Handle handle_;
+struct ObjectDelete {
+    void operator()(HGDIOBJ object) const noexcept { DeleteObject(object); }
 };
 
-/// An object selected into a device context, which gets the previous one back.
+/// A pen, brush or bitmap of one's own; may be null.
+template <class Handle>
+using Object = std::unique_ptr<std::remove_pointer_t<Handle>, ObjectDelete>;
+
+/// Keeps an object selected into a device context; then selects the previous one again.
 class Selection
 {
 public:
@@ -68,7 +60,7 @@ private:
     HDC dc_;
 };
 
-/// What `use` gives for the device context, or for a new one of that kind when it is null.
+/// The result of `use` for the device context, or if that is null for one of the kind `NewDc`.
 template <class NewDc, class Use>
 auto withDc(HDC dc, Use use)
 {

@@ -13,8 +13,6 @@ struct LocalRelease {
     void operator()(char* text) const { LocalFree(text); }
 };
 
-constexpr DWORD userDefaultLanguage = 0x400;
-
 } // namespace
 
 std::string systemErrorText(std::uint32_t code)
@@ -22,7 +20,7 @@ std::string systemErrorText(std::uint32_t code)
     char* allocated = nullptr;
     const DWORD length = FormatMessageA(
         FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-        nullptr, code, userDefaultLanguage,
+        nullptr, code, LANG_USER_DEFAULT,
         reinterpret_cast<char*>(&allocated), // NOLINT: the flag makes it the address of a pointer
         0, nullptr);
     const std::unique_ptr<char, LocalRelease> text(allocated);

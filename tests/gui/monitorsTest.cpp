@@ -1,6 +1,6 @@
 #include "pelmora/gui/monitors.h"
 
-#include "pelmora/gui/monitorQueries.h"
+#include "pelmora/gui/MonitorSystem.h"
 #include "pelmora/gui/monitorWidth.h"
 #include "pelmora/registry/RegistryKey.h"
 
@@ -63,9 +63,9 @@ BOOL WINAPI enumerate(const char* name, DWORD index, DISPLAY_DEVICEA* device, DW
 
 TEST(Monitors, OfSeveralTheRightOneIsMeasured)
 {
-    const MonitorFunctions system = {
+    const MonitorSystem system(MonitorSystem::Functions{
         [](HWND window, DWORD) { return window == nullptr ? right : left; },
-        [](POINT point, DWORD) { return point.x < 0 ? left : right; }, informationOf, enumerate};
+        [](POINT point, DWORD) { return point.x < 0 ? left : right; }, informationOf, enumerate});
     const TableEntry leftEntry("Pelmora-test-left", 310);
     const TableEntry rightEntry("Pelmora-test-right", 520);
     const HWND onLeft = GetDesktopWindow();
@@ -83,35 +83,31 @@ TEST(Monitors, OfSeveralTheRightOneIsMeasured)
     };
     for (const auto& [present, pixelsLeft, pixelsRight] : rows) {
         adapters = present;
-        EXPECT_EQ(monitorPixelsPerCm(system, onLeft), pixelsLeft);
-        EXPECT_EQ(monitorPixelsPerCm(system, nullptr), pixelsRight);
+        EXPECT_EQ(system.pixelsPerCm(onLeft), pixelsLeft);
+        EXPECT_EQ(system.pixelsPerCm(nullptr), pixelsRight);
     }
-    RECT area = {};
-    workAreaOfWindow(system, area, onLeft);
+    const RECT area = system.workAreaOfWindow(onLeft);
     EXPECT_EQ(std::pair(area.left, area.bottom), std::pair(-1280L, 784L));
     SetCursorPos(7, 5);
-    workAreaAtPoint(system, area, -1, -1);
-    EXPECT_EQ(area.left, 0);
-    workAreaAtPoint(system, area, -1, 5); // a point, not the cursor
-    EXPECT_EQ(area.left, -1280);
+    EXPECT_EQ(system.workAreaAtPoint(-1, -1).left, 0);
+    EXPECT_EQ(system.workAreaAtPoint(-1, 5).left, -1280); // a point, not the cursor
 }
 
 TEST(Monitors, WithoutTheFunctionsThereIsOneMonitor)
 {
-    const MonitorFunctions found = lookUpMonitorFunctions(GetModuleHandleA("kernel32"));
+    const MonitorSystem single(GetModuleHandleA("kernel32"));
     RECT whole = {};
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &whole, 0);
-    RECT area = {};
-    workAreaAtPoint(found, area, -5000, -5000);
+    const RECT area = single.workAreaAtPoint(-5000, -5000);
     EXPECT_EQ(EqualRect(&area, &whole), TRUE);
-    EXPECT_EQ(identifierOfMonitor(found, nullptr), "");
+    EXPECT_EQ(single.identifier(nullptr), "");
 }
 
-TEST(Monitors, TheSystemsOwn)
+TEST(Monitors, TheScreenIsMeasuredByItsEntryInTheTable)
 {
     const int width = GetSystemMetrics(SM_CXSCREEN);
-    const TableEntry entry(getMonitorIdentifier(nullptr), 520);
-    EXPECT_EQ(getMonitorPixelsPerCm(nullptr), pixelsPerCm(width, 520));
+    const TableEntry entry(getMonitorIdentifier(nullptr), static_cast<std::uint32_t>(width / 4));
+    EXPECT_EQ(getMonitorPixelsPerCm(nullptr), 40); // four pixels a millimetre
     RECT area = {};
     getWorkAreaOfWindow(area, nullptr);
     EXPECT_EQ(area.right, width);
