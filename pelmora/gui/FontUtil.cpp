@@ -50,7 +50,7 @@ using Gdi::withDc;
 
 constexpr int decipointsPerInch = 720;
 
-/// a * b / c, rounded towards 0 and kept in range; 0 where a device context gives 0 for c.
+/// a * b / c, rounded towards 0 and clamped to an int; 0 if c is 0, as some device contexts answer.
 int scaled(std::int64_t a, int b, int c)
 {
     constexpr std::int64_t most = std::numeric_limits<int>::max();

@@ -9,7 +9,7 @@ namespace Pelmora::Native
 {
 
 /// Owner of a GDI font. Moved and not copied; used by one thread at a time. A font that is selected
-/// into a device context must be taken out of it before its owner goes.
+/// into a device context must be replaced there before its owner is destroyed.
 class PELMORA_API Font
 {
 public:
@@ -18,9 +18,8 @@ public:
     Font& operator=(Font&& other) noexcept;
     ~Font() { reset(); }
 
-    /// Takes over a font in place of the one held, which is deleted; false for null, which leaves
-    /// none. A stock font may be attached as well: deleting it does nothing. Requires: nobody else
-    /// owns it.
+    /// Deletes the font held and takes over another; false for null, which leaves none. A stock
+    /// font may be attached as well: deleting it does nothing. Requires: nobody else owns the font.
     bool attach(HFONT font) noexcept;
 
     /// The font, now the caller's to delete; this object holds none.
@@ -38,17 +37,17 @@ private:
 /// Fonts of the system's character set, and the measures of fonts.
 ///
 /// Heights are in logical units of a device context and signed as for CreateFontA: a negative one
-/// is that of the characters, a positive one that of the line. Sizes are in tenths of a point, of
-/// which 720 make an inch. Face names are in the ANSI code page and have at most 31 bytes that
-/// count. Where a device context may be left out, one of the screen serves.
+/// measures the characters, a positive one the line. Sizes are in decipoints (tenths of a point,
+/// 720 an inch). Of a face's name 31 bytes count, in the ANSI code page. A device context that is
+/// left out is one of the screen.
 ///
-/// All functions may run in several threads at once, each with a device context of its own, and
-/// `create` as far as the log allows.
+/// All functions may run in several threads at once, each with a device context of its own;
+/// `create` only if the log may be used so.
 namespace FontUtil
 {
 
-/// A font for `font`. One that cannot be created is one line in the error log, and the system's own
-/// font takes its place, so that `font` can be used in any case; whether it holds one.
+/// Creates a font in `font`. If that fails, the error log gets one line and `font` the system's own
+/// font, so that it can be used in any case. True if it holds a font.
 PELMORA_API bool create(Font& font, const AnsiText& face, int height, bool bold, bool italic);
 
 /// The font alone, the caller's to delete; null when it cannot be created.
@@ -69,8 +68,8 @@ PELMORA_API bool hasSmallFonts();
 PELMORA_API bool exists(const AnsiText& face, BYTE charset, HDC dc = nullptr);
 PELMORA_API bool existsAnyCharset(const AnsiText& face, HDC dc = nullptr);
 
-/// The font's measures in logical units; of the line, ascent and descent together, or all of them.
-/// Those of the device context's own font for null, and 0, or zeros, when the system fails.
+/// The height of the font's line (ascent and descent), or all its measures, in logical units. Null
+/// stands for the device context's own font. 0, or zeros, when the system fails.
 PELMORA_API int textHeight(HFONT font, HDC dc = nullptr);
 PELMORA_API void textMetrics(TEXTMETRICA& metrics, HFONT font, HDC dc = nullptr);
 
@@ -78,9 +77,9 @@ PELMORA_API void textMetrics(TEXTMETRICA& metrics, HFONT font, HDC dc = nullptr)
 /// rounded towards 0.
 PELMORA_API int decipointsToHeight(int decipoints, HDC dc = nullptr);
 
-/// The size of that height, rounded towards 0. A point at that height is measured: the sign turns
-/// where a mapping mode points upwards, and origins other than 0 count. 0 for a device context that
-/// has no resolution.
+/// The size of that height, rounded towards 0. Measures the point (0, height), not a distance: the
+/// sign flips in mapping modes with y upwards, and a moved origin counts. 0 for a device context
+/// without a resolution.
 PELMORA_API int heightToDecipoints(int height, HDC dc = nullptr);
 
 } // namespace FontUtil

@@ -10,7 +10,7 @@ std::optional<INT_PTR> ModalDialog::run(const DialogTemplateBytes& dialog, HWND 
 {
     begun_ = false;
     ended_ = false;
-    if (!dialog.valid()) { // the system would read on behind its end
+    if (!dialog.valid()) { // the system would read beyond its end
         SetLastError(ERROR_INVALID_DATA);
         return std::nullopt;
     }
@@ -24,7 +24,7 @@ std::optional<INT_PTR> ModalDialog::run(const DialogTemplateBytes& dialog, HWND 
                                 reinterpret_cast<LPARAM>(this)); // NOLINT: comes back unchanged
     window_ = nullptr;
     if (begun_ && !ended_ && ownerIsEnabled)
-        EnableWindow(owner, TRUE); // left to EndDialog by some systems
+        EnableWindow(owner, TRUE); // some systems leave that to EndDialog
     if (const auto failure = std::exchange(failure_, nullptr))
         std::rethrow_exception(failure);
     return ended_ ? std::optional(result) : std::nullopt;

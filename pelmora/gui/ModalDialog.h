@@ -15,8 +15,8 @@ namespace Pelmora::Native
 /// `runModalDialog`. Derived classes say what it does with its messages. The dialog is a Unicode
 /// window: its messages are those of the system's wide functions.
 ///
-/// An exception of the handler's never passes through the system: it ends the dialog and is thrown
-/// again by `run`. An object can run again when it has ended, and belongs to one thread.
+/// An exception of the handler never passes through the system: it ends the dialog, and `run`
+/// throws it again. An object can run again after its end, and belongs to one thread.
 class PELMORA_API ModalDialog
 {
 public:
@@ -48,8 +48,8 @@ protected:
     /// IDCANCEL when such a button is pressed, and with IDCANCEL when it is closed.
     virtual INT_PTR handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
-    /// Ends the dialog when the handler returns; destroying its window is no way to. Requires: it
-    /// runs.
+    /// Ends the dialog when the handler returns. Do not call DestroyWindow instead. Requires: the
+    /// dialog runs.
     void end(INT_PTR result);
 
 private:

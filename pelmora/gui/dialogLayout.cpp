@@ -32,7 +32,7 @@ constexpr DialogLayout extended = {
 
 constexpr std::uint16_t ordinalMark = 0xFFFF;
 
-/// Walks through a template. A step beyond its end makes the reader fail, and stay so.
+/// Reads a template from its beginning. Once a step would leave it, the reader has failed for good.
 class Reader
 {
 public:
@@ -55,7 +55,7 @@ public:
         return failed_ ? std::uint16_t(0) : readNumber<std::uint16_t>(bytes_, at);
     }
 
-    /// The units before the NUL.
+    /// Skips a string; gives the number of its units before the NUL.
     std::size_t string()
     {
         std::size_t length = 0;
@@ -118,7 +118,7 @@ std::optional<DialogParts> dialogParts(std::span<const std::byte> bytes)
     parts.font = reader.position();
     parts.hasFace = parts.hasFont && reader.word() != messageFontSize;
     if (parts.hasFace) {
-        reader.skip(parts.layout->fontFixedSize - 2); // without the size
+        reader.skip(parts.layout->fontFixedSize - 2); // the size is read already
         parts.faceLength = reader.string();
     }
     parts.items = reader.position();

@@ -5,10 +5,12 @@
 #include <optional>
 #include <span>
 
+// Internal: where the parts of a dialog template lie.
+
 namespace Pelmora::Native
 {
 
-/// Where the parts of a dialog template lie that do not depend on what it holds, in bytes.
+/// The fixed positions and sizes of one of the two layouts, in bytes.
 struct DialogLayout {
     bool extended;
     std::size_t style;
@@ -25,20 +27,20 @@ struct DialogParts {
     const DialogLayout* layout;
     std::size_t caption;
     std::size_t captionLength; ///< in units, without the NUL
-    std::size_t font;          ///< behind the caption's NUL
+    std::size_t font;          ///< directly after the caption's NUL
     bool hasFont;
-    bool hasFace;           ///< and what stands between size and face
+    bool hasFace;           ///< and weight, italic and character set in the extended layout
     std::size_t faceLength; ///< in units, without the NUL
-    std::size_t items;      ///< behind the font block, not aligned
+    std::size_t items;      ///< the end of the font block, not aligned
     std::uint16_t itemCount;
 
     std::size_t fontBlockSize() const { return items - font; }
 };
 
-/// Says that a template has a font.
+/// The style bit of a template that has a font.
 inline constexpr std::uint32_t setFontStyle = 0x40;
 
-/// In place of a point size: the system's font for messages. Nothing more is said of the font.
+/// In place of a point size: the system's font for messages. The font block ends after it.
 inline constexpr std::int16_t messageFontSize = 0x7FFF;
 
 constexpr std::size_t alignedTo4(std::size_t position)
@@ -46,7 +48,7 @@ constexpr std::size_t alignedTo4(std::size_t position)
     return (position + 3) & ~std::size_t(3);
 }
 
-/// None when the bytes are not a whole template with all the items that it counts.
+/// None if the bytes are not a whole template with as many items as its header says.
 std::optional<DialogParts> dialogParts(std::span<const std::byte> bytes);
 
 } // namespace Pelmora::Native

@@ -18,10 +18,11 @@ bool hasFocus(HWND control)
     return focus != nullptr && (focus == control || IsChild(control, focus) != 0);
 }
 
-/// The next control in tab order that is not within this one; null when there is none.
+/// The next control in tab order that is not within this one; null if there is none.
 HWND nextControl(HWND control)
 {
-    constexpr int mostSteps = 1000; // the order may turn in circles within the control
+    // The order may turn in circles within the control. No control contains so many others.
+    constexpr int mostSteps = 1000;
     const HWND parent = GetParent(control);
     HWND next = GetNextDlgTabItem(parent, control, FALSE);
     for (int step = 0; next != nullptr && IsChild(control, next) != 0; ++step) {
@@ -32,7 +33,7 @@ HWND nextControl(HWND control)
     return next == control ? nullptr : next;
 }
 
-/// Before the control can no longer take the focus.
+/// To be called before the control becomes unable to have the focus.
 void passFocusOn(HWND control)
 {
     if (!hasFocus(control))
@@ -96,7 +97,8 @@ bool showControl(HWND control, bool show)
 
 bool isComboBox(HWND window)
 {
-    // Too short for the names of other classes that begin alike, on purpose.
+    // One character longer than "combobox", so that "ComboBoxEx32" is cut to "ComboBoxE" and does
+    // not match.
     std::array<char, 10> name = {};
     GetClassNameA(window, name.data(), static_cast<int>(name.size()));
     return lstrcmpiA(name.data(), "combobox") == 0;

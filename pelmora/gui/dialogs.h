@@ -25,23 +25,23 @@ PELMORA_API INT_PTR runModalDialog(ModalDialog& dialog, std::uint16_t resource, 
 /// Fonts" of 7 points, if that is installed.
 PELMORA_API void setDialogTemplateFont(DialogTemplateBytes& dialog);
 
-/// Disables a control. If it, or a window within it, has the keyboard focus, that goes to the next
-/// control in tab order first, when there is one. Whether the control was disabled before.
+/// Disables a control, and gives whether it was disabled before. If it or a window within it has
+/// the keyboard focus, the next control in tab order gets that first, if there is one.
 PELMORA_API bool disableControl(HWND control);
 
-/// Enables or disables a control, as `disableControl` does. Its state before, when that is the one
-/// asked for and nothing is done; otherwise whether it was disabled before.
+/// Enables a control, or disables it as `disableControl` does. If it is in that state already,
+/// nothing is done and the result is whether it is enabled; otherwise whether it was disabled.
 PELMORA_API bool enableControl(HWND control, bool enable);
 
-/// Shows or hides a control, passing the focus on before it is hidden. Whether it was visible
-/// before.
+/// Shows a control, or hides it and passes the focus on first, as above. Gives whether it was
+/// visible before.
 PELMORA_API bool showControl(HWND control, bool show);
 
-/// Whether the window's class is the system's combo box. The extended one is none.
+/// Whether the window's class is the system's combo box; ComboBoxEx32 is not.
 PELMORA_API bool isComboBox(HWND window);
 
-/// Whether a combo box is a drop-down list, whose text cannot be edited. Other windows may seem to
-/// be one.
+/// Whether a combo box is a drop-down list, whose text cannot be edited. Requires: `comboBox` is a
+/// combo box.
 PELMORA_API bool isDropDownList(HWND comboBox);
 
 } // namespace Pelmora::Native

@@ -4,16 +4,17 @@
 #include <optional>
 #include <span>
 
+// Internal: where the parts of a bitmap resource lie.
+
 namespace Pelmora::Native
 {
 
-/// Where the pixels begin in a bitmap resource: a BITMAPINFOHEADER or a later form of it, a colour
-/// table with 4 bytes an entry, and the pixels. None when the header's numbers are not those of a
-/// bitmap that may stand in a resource, or when header, table and pixels together would need more
-/// bytes than there are.
+/// The position of the pixels in a bitmap resource, which is a BITMAPINFOHEADER or a later form of
+/// it, a colour table of 4 bytes an entry, and the pixels. None if the header is not that of a
+/// bitmap resource, or if header, table and pixels need more bytes than there are.
 ///
-/// A header that does not say how many entries the table has stands for 16 also with 1 bit a pixel,
-/// and colour masks behind a header are counted as pixels, both on purpose.
+/// With 1 bit a pixel, a header that does not give the number of entries has 16 too, and colour
+/// masks after a header count as pixels, both on purpose.
 std::optional<std::size_t> dibPixelOffset(std::span<const std::byte> resource);
 
 } // namespace Pelmora::Native

@@ -23,14 +23,14 @@ struct Area {
 };
 
 /// Draws the part `source` of a bitmap resource (type RT_BITMAP) of a module, null for the
-/// program's own, scaled into `destination`; areas of no size and mirrored ones are up to the
-/// system. False, with one line in the error log, when there is no such resource or its header is
-/// not one of a BITMAPINFOHEADER that fits its size, and then nothing is touched; or when the
-/// system answers with an error, which it does not for everything that it does not draw.
+/// program's own, scaled into `destination`. The system decides what empty and mirrored areas mean.
+/// False, with one line in the error log: if there is no such resource or its header does not fit
+/// its size, and then nothing is drawn; or if the system reports an error, which it does not do for
+/// everything that it leaves undrawn.
 ///
-/// Bitmaps of 1, 4, 8, 16, 24 and 32 bits. Kept as they are: one of 1 bit without a number of
-/// colours needs a colour table of 16 entries, and colour masks behind a header of 40 bytes are
-/// drawn as pixels.
+/// Bitmaps have 1, 4, 8, 16, 24 or 32 bits. On purpose, one of 1 bit without a number of colours
+/// needs a colour table of 16 entries, and colour masks after a header of 40 bytes are drawn as
+/// pixels.
 PELMORA_API bool showDib(HDC dc, std::uint16_t resource, const Area& destination,
                          const Area& source, HMODULE module = nullptr);
 

@@ -12,7 +12,7 @@ namespace Pelmora::Native
 namespace
 {
 
-/// Not a byte of that value within a character of two bytes.
+/// The second byte of a two-byte character does not count, though it may equal a separator.
 bool endsInSeparator(const std::string& path)
 {
     const char last = *CharPrevA(path.c_str(), path.c_str() + path.size());

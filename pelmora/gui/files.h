@@ -10,15 +10,15 @@
 namespace Pelmora::Native
 {
 
-/// Whether a file or folder of that name exists. One separator at the end is no part of it. A
-/// pattern with wildcards counts as existing when it matches anything. An empty path does not
-/// exist, nor does the root of a drive, which no folder lists.
+/// Whether a file or folder of that name exists. One separator at the end is ignored. A pattern
+/// with wildcards exists if it matches anything. An empty path does not exist, nor does the root of
+/// a drive, which no folder lists.
 PELMORA_API bool pathExists(const AnsiText& path);
 
-/// Takes the read-only attribute from a file or folder, so that it can be written; all others stay.
-/// Nothing happens where it is not set or nothing is there. Otherwise one line in the error log
-/// says whether it was removed; on purpose it says "Could not remove" also of a success when
-/// `logSuccess` is false.
+/// Removes the read-only attribute of a file or folder and leaves all others. Nothing happens if it
+/// is not set or the file does not exist. Otherwise the error log gets one line that says whether
+/// it was removed; without `logSuccess` that line says "Could not remove" of a success too, on
+/// purpose.
 PELMORA_API void removeReadOnly(const AnsiText& path, bool logSuccess);
 
 } // namespace Pelmora::Native

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-// The numbers in what resources hold, at any address.
+// Internal: little-endian numbers in bytes, at any address.
 
 namespace Pelmora::Native
 {

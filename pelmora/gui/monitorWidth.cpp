@@ -14,8 +14,8 @@ std::size_t characterLength(std::string_view text, IsLeadByte isLeadByte)
     return text.size() > 1 && isLeadByte(static_cast<unsigned char>(text[0])) ? 2 : 1;
 }
 
-/// The text with another byte in place of those of two-byte characters, the second of which may
-/// look like a backslash or a letter.
+/// The text with 0xFF for both bytes of each two-byte character: the second may be that of a
+/// backslash or a letter.
 std::string withoutDoubleBytes(std::string_view text, IsLeadByte isLeadByte)
 {
     std::string masked(text);
@@ -28,7 +28,7 @@ std::string withoutDoubleBytes(std::string_view text, IsLeadByte isLeadByte)
     return masked;
 }
 
-/// The characters that fit in so many bytes.
+/// The beginning, of whole characters and at most `most` bytes.
 std::string_view cut(std::string_view text, std::size_t most, IsLeadByte isLeadByte)
 {
     std::size_t kept = 0;
@@ -49,7 +49,7 @@ std::optional<std::string> monitorIdentifier(std::string_view deviceId, IsLeadBy
         std::string_view opening;
         char closing;
     };
-    constexpr Form forms[] = {{"#", '#'}, {"Monitor\\", '\\'}}; // the first that is there counts
+    constexpr Form forms[] = {{"#", '#'}, {"Monitor\\", '\\'}}; // the first that is found counts
     constexpr std::size_t longest = 127;
 
     const std::string masked = withoutDoubleBytes(deviceId, isLeadByte);

@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-// What the monitors' physical widths are told by, apart from the system's answers.
+// Internal: the portable half of the look-up of physical widths. It takes device identifiers apart
+// and computes; it calls no function of the system.
 
 namespace Pelmora::Native
 {
@@ -16,13 +17,13 @@ inline constexpr const char* monitorWidthTable = "SOFTWARE\\Tavelin\\MonitorWidt
 /// Whether a byte is the first of a character of two bytes.
 using IsLeadByte = bool (*)(unsigned char);
 
-/// The name of a monitor model in the table, out of the identifier string of a monitor device:
-/// what stands between its first and last '#', or, where there is none, between "Monitor\" and the
-/// last backslash; at most 127 bytes. None when the string has neither form or does not close it.
+/// The name of a monitor in the table, cut out of the identifier of its device: the text between
+/// the first and the last '#' or, in one without '#', between "Monitor\" and the last backslash; at
+/// most 127 bytes. None if the identifier has neither form.
 std::optional<std::string> monitorIdentifier(std::string_view deviceId, IsLeadByte isLeadByte);
 
-/// Pixels per centimetre, rounded half up, of a monitor so many pixels and millimetres wide; none
-/// when the millimetres, read as a signed number, are not more than 0.
+/// Pixels per centimetre, rounded half up; none if the millimetres, read as a signed number, are 0
+/// or less.
 std::optional<int> pixelsPerCm(std::int64_t widthInPixels, std::uint32_t widthInMm);
 
 } // namespace Pelmora::Native

@@ -16,9 +16,8 @@ namespace Pelmora::Native
 /// Formatter::escape.
 PELMORA_API GString makeLink(const GString& text, const GString& target);
 
-/// The fields between the separators, in their order, the last one behind the last separator, which
-/// is found byte by byte, whatever the code page: an
-/// empty text is one empty field. With `skipEmpty` empty fields are left out.
+/// Splits at each `separator` byte, whatever the code page. An empty text gives one empty field;
+/// `skipEmpty` drops empty ones.
 PELMORA_API std::vector<std::string> split(std::string_view text, char separator, bool skipEmpty);
 
 } // namespace Pelmora::Native

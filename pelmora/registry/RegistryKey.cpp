@@ -130,11 +130,11 @@ RegistryKey::Bytes RegistryKey::queryRaw(const std::string& name, unsigned long 
     Bytes value = {std::make_unique<std::byte[]>(size), size};
     if (!queryValue(name, expectedType, value.data.get(), size))
         return {};
-    value.size = std::min<std::size_t>(value.size, size); // it may have shrunk meanwhile
+    value.size = std::min<std::size_t>(value.size, size); // another program may have shortened it
     return value;
 }
 
-/// One call of the system's, to which another program's writing may come between.
+/// Asks the system once; another program may change the value between two calls.
 bool RegistryKey::queryValue(const std::string& name, unsigned long expectedType, std::byte* room,
                              unsigned long& size) const
 {
@@ -145,7 +145,7 @@ bool RegistryKey::queryValue(const std::string& name, unsigned long expectedType
         return false;
     if (type == expectedType)
         return true;
-    // The "<< " and the missing blank are meant: callers know the text.
+    // The "<< " and the missing blank stay, on purpose: readers of logs match the text.
     lastError_ = "The value: '" + name + "' has type: << " + std::to_string(type) +
                  ", type expected:" + std::to_string(expectedType);
     return false;
@@ -309,7 +309,7 @@ std::string ValueNameIterator::operator*() const
     if (name_.empty()) {
         std::array<char, 256> buffer = {};
         auto length = static_cast<DWORD>(buffer.size());
-        // Its status says nothing that the buffer does not.
+        // A failure leaves the buffer empty or cut, which is all that callers learn.
         RegEnumValueA(key_, index_, buffer.data(), &length, nullptr, nullptr, nullptr, nullptr);
         buffer.back() = '\0';
         name_ = buffer.data();

@@ -20,9 +20,9 @@ namespace Pelmora::Native
 enum class OpenMode : std::uint32_t {
     Read = 1,
     Write = 2,
-    WriteOrRead = 4, ///< writing, and reading if `Read` is set; where that fails reading only
-    Create = 8,      ///< makes a key that is not there, with all its parents
-    AllAccess = 16,  ///< everything that can be done to a key; means nothing beside `WriteOrRead`
+    WriteOrRead = 4, ///< for writing, and reading if `Read` is set; if refused, only for reading
+    Create = 8,      ///< makes the key and its parents if they are missing
+    AllAccess = 16,  ///< every access right; ignored with `WriteOrRead`
 };
 
 constexpr OpenMode operator|(OpenMode a, OpenMode b) noexcept
@@ -43,9 +43,9 @@ public:
     ValueNameIterator& operator++() noexcept;
     ValueNameIterator operator++(int);
 
-    /// The value's name in the ANSI code page, which names with other characters cannot be found
-    /// by. At most 255 bytes: a longer one cannot be had, and is "" or its beginning, as the system
-    /// leaves it. Asked of the system when first needed, then kept. "" past the last value.
+    /// The value's name in the ANSI code page, "" past the last value. Characters outside the code
+    /// page are replaced, so such a value cannot be read by this name. A name of more than 255
+    /// bytes is "" or cut, as the system leaves it. Read from the system on first use, then kept.
     std::string operator*() const;
     GString wideName() const { return GString(**this); }
 
@@ -58,15 +58,14 @@ public:
 private:
     HKEY key_;
     std::uint32_t index_;
-    mutable std::string name_; ///< empty until it was asked for
+    mutable std::string name_; ///< empty until the first use
 };
 
 /// Owner of an open registry key, closed when this object is destroyed or opens another, and of
 /// the text of its last failure. Nothing here throws for a failure of the registry.
 ///
-/// Reads find only values of their own type. A reader gives the value, or the default that the
-/// caller names when the value is absent, has another type or cannot be read; `lastError` tells
-/// these from success. Whatever stands in the registry is safe to read.
+/// Readers give the value, or the caller's default when it is absent, has another type or cannot be
+/// read; `lastError` tells these from success. Any data in the registry is safe to read.
 ///
 /// Paths, names and string values cross to the system in the ANSI code page, up to their first NUL
 /// for paths and names. Operations take narrow and wide text alike; those that return text have a
@@ -75,7 +74,7 @@ private:
 /// first NUL.
 ///
 /// An object is used by one thread at a time. It can be moved and not copied: a handle has one
-/// owner. What was moved from is a key that is not open, as a new one.
+/// owner. A key that was moved from is like a new one: not open.
 class PELMORA_API RegistryKey
 {
 public:
@@ -84,25 +83,25 @@ public:
     RegistryKey& operator=(RegistryKey&& other) noexcept;
     ~RegistryKey();
 
-    /// Closes the key that is open, whatever follows; whether the new one is open now.
+    /// Closes the key that was open and opens another; true on success.
     bool open(HKEY root, const AnsiText& path, OpenMode mode);
 
-    /// Below HKEY_LOCAL_MACHINE, or where that fails below HKEY_CURRENT_USER.
+    /// Opens below HKEY_LOCAL_MACHINE or, if that fails, below HKEY_CURRENT_USER.
     bool openMachineOrUser(const AnsiText& path, OpenMode mode);
 
-    /// A REG_SZ value. The last byte is taken for the terminator and dropped unseen: a string that
-    /// was stored without one loses its last character, on purpose.
+    /// A REG_SZ value. The last byte is dropped unseen, as the terminator: a string that was stored
+    /// without one loses its last character, on purpose.
     std::string readString(const std::string& name, const std::string& fallback) const;
     GString readString(const GString& name, const GString& fallback) const
     {
         return GString(readString(name.to_narrow(), fallback.to_narrow()));
     }
 
-    /// A REG_DWORD value; the default also for one that has not 4 bytes, which is no failure.
+    /// A REG_DWORD value. One that does not have 4 bytes gives the default without a failure.
     std::uint32_t readDword(const AnsiText& name, std::uint32_t fallback) const;
 
-    /// A REG_BINARY value, now the caller's, and the number of its bytes in `size`. Null and 0 on
-    /// failure; a value without bytes is not null.
+    /// A copy of a REG_BINARY value, and in `size` its number of bytes. Null and 0 on failure; an
+    /// empty value is not null.
     std::unique_ptr<std::byte[]> readBinary(const AnsiText& name, std::size_t& size) const;
 
     /// UTF-16 in a REG_BINARY value, all of it; an odd last byte is ignored.
@@ -115,31 +114,31 @@ public:
     /// The writers give true on success and replace a value of any type.
     bool writeString(const AnsiText& name, const AnsiText& value);
     bool writeDword(const AnsiText& name, std::uint32_t value);
-    /// Requires: `bytes` are as many as `size`; 4 GiB and more are refused.
+    /// Requires: `bytes` points to `size` bytes. 4 GiB and more are refused.
     bool writeBinary(const AnsiText& name, const void* bytes, std::size_t size);
     /// As REG_BINARY, without a terminator.
     bool writeWideString(const AnsiText& name, const GString& value);
-    /// The strings, each with its terminator, and two more NULs: one more than readers need, on
-    /// purpose. A string that is empty ends the list for readers.
+    /// The strings, each with its terminator, and two NULs: one more than readers need, on purpose.
+    /// For readers an empty string ends the list.
     bool writeMultiString(const AnsiText& name, const std::vector<std::string>& values);
     bool writeMultiString(const AnsiText& name, const std::vector<GString>& values);
     bool writeMultiString(const AnsiText& name, std::initializer_list<AnsiText> values);
 
-    /// False also when no key is open; `lastError` stays as it is.
+    /// False also when no key is open. `lastError` does not change.
     bool deleteValue(const AnsiText& name);
 
-    /// Waits until the key is on the disk; the status of RegFlushKey, 0 on success, not 0 also when
-    /// no key is open. `lastError` stays as it is.
+    /// Waits until the key is on the disk. Gives the status of RegFlushKey, 0 on success; never 0
+    /// when no key is open. `lastError` does not change.
     long flush();
 
-    /// What `open`, the readers and the writers last met: empty after a success, "key not opened"
-    /// without a key, otherwise the system's text for the status (see `systemErrorText`) or, for a
-    /// value of another type, which one it has and which was expected.
+    /// The last failure of `open`, a reader or a writer; empty after a success. "key not opened"
+    /// without a key, a text with both types for a value of another type, otherwise the system's
+    /// text for the status (see `systemErrorText`).
     std::string lastError() const;
 
     ValueNameIterator valueNamesBegin() const;
-    /// Past the last value that the key has now; the same as the first without a key, and when the
-    /// system does not tell their number.
+    /// Past the last value that the key has now. Equal to `valueNamesBegin` without a key and when
+    /// the system does not tell the number of values.
     ValueNameIterator valueNamesEnd() const;
 
 private:

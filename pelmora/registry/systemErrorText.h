@@ -9,8 +9,8 @@ namespace Pelmora::Native
 {
 
 /// The system's text for one of its status codes, in the user's language and the ANSI code page,
-/// with the line end that the system puts behind it; "Unknown error: " and the code as a signed
-/// number where the system has none. May run in several threads at once.
+/// including the line end that the system appends. If the system has no text, "Unknown error: " and
+/// the code as a signed number. May run in several threads at once.
 PELMORA_API std::string systemErrorText(std::uint32_t code);
 
 } // namespace Pelmora::Native
