@@ -6,6 +6,7 @@
 #include "tests/gui/sampleDialogs.h"
 #include "tests/printing.h"
 
+#include <array>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -52,14 +53,22 @@ std::vector<SampleDialog> samples()
     for (const bool isExtended : {false, true})
         for (const char16_t* const name : {u"", u"#", u"menu"})
             for (const char16_t* const caption : {u"", u"Bed", u"Beds"})
-                for (const char16_t items : {u'\0', u'\1', u'\3'})
+                for (const auto items : std::to_array<std::uint16_t>({0, 1, 3}))
                     for (const bool hasFace : {false, true})
                         all.push_back({isExtended, name, u"#", caption, items != 1,
-                                       hasFace ? u'\b' : u'\x7FFF', hasFace ? u"Tahoma" : u"",
-                                       items, u"\u01F4\u00EE"});
+                                       hasFace ? std::uint16_t(8) : std::uint16_t(0x7FFF),
+                                       hasFace ? u"Tahoma" : u"", items, u"\u01F4\u00EE"});
     for (std::size_t i = 0; i < all.size(); i += 2)
         all[i].creationBytes = 6;
     return all;
+}
+
+std::string described(const SampleDialog& sample)
+{
+    return std::string(sample.isExtended ? "extended" : "classic") + ", menu '" +
+           textOf(sample.menu).to_narrow() + "', caption '" + textOf(sample.caption).to_narrow() +
+           "', " + std::to_string(sample.items) + " items, " +
+           (sample.hasFont ? "font " : "no font ") + std::to_string(sample.pointSize);
 }
 
 TEST(DialogTemplateBytes, CaptionAndFontAreReplaced)
@@ -67,6 +76,7 @@ TEST(DialogTemplateBytes, CaptionAndFontAreReplaced)
     const std::u16string captions[] = {u"", u"Infusion \u3042", std::u16string(255, u'c'), u"x"};
     const std::u16string faces[] = {u"", u"Caf\u00E9", std::u16string(31, u'f'), u"Arial"};
     for (SampleDialog sample : samples()) {
+        SCOPED_TRACE(described(sample));
         DialogTemplateBytes dialog(built(sample));
         expectSame(dialog, sample);
         for (const std::u16string& caption : captions) {
@@ -75,7 +85,7 @@ TEST(DialogTemplateBytes, CaptionAndFontAreReplaced)
             expectSame(dialog, sample);
         }
         EXPECT_EQ(dialog.setFontSize(9), sample.hasFace());
-        sample.pointSize = sample.hasFace() ? u'\t' : sample.pointSize;
+        sample.pointSize = sample.hasFace() ? std::uint16_t(9) : sample.pointSize;
         expectSame(dialog, sample);
         sample.weightAndCharset = sample.hasFace() ? sample.weightAndCharset : std::u16string(2, 0);
         sample.hasFont = true;
@@ -129,9 +139,10 @@ bool takesEmptyPaths(DialogTemplateBytes dialog)
            dialog.getFont() == Font("", -1) && bytesOf(dialog) == before;
 }
 
-TEST(DialogTemplateBytes, WhatIsNoWholeTemplateIsLeftAlone)
+TEST(DialogTemplateBytes, BytesThatAreNotAWholeTemplateAreLeftAlone)
 {
     for (SampleDialog sample : samples()) {
+        SCOPED_TRACE(described(sample));
         const Bytes bytes = built(sample);
         for (std::size_t size = 0; size < bytes.size(); ++size)
             EXPECT_TRUE(takesEmptyPaths(DialogTemplateBytes(std::span(bytes).first(size)))) << size;
@@ -150,7 +161,7 @@ TEST(DialogTemplateBytes, WhatIsNoWholeTemplateIsLeftAlone)
     }
 }
 
-TEST(DialogTemplateBytes, FontRule)
+TEST(FontRule, ASmallFontThatHasTheSystemsCharacters)
 {
     const std::tuple<bool, bool, bool, Font> rows[] = {
         // another character set, small fonts, a font, the font afterwards

@@ -1,11 +1,10 @@
 #include "pelmora/gui/dialogs.h"
 
 #include "pelmora/gui/FontUtil.h"
-#include "pelmora/gui/dialogLayout.h"
-#include "pelmora/gui/littleEndian.h"
 
 #include "tests/LogCapture.h"
 #include "tests/gui/ResourceModule.h"
+#include "tests/gui/madeFrom.h"
 #include "tests/gui/sampleDialogs.h"
 
 #include <array>
@@ -19,14 +18,6 @@ namespace Pelmora::Native
 {
 namespace
 {
-
-HWND made(const Bytes& dialog, HWND parent)
-{
-    const DLGPROC ignore = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
-    return CreateDialogIndirectParamW(GetModuleHandleW(nullptr),
-                                      reinterpret_cast<const DLGTEMPLATE*>(dialog.data()), parent,
-                                      ignore, 0);
-}
 
 /// A dialog with three buttons, the first of which has the focus.
 class DialogsTest : public testing::Test
@@ -48,7 +39,7 @@ protected:
                                nullptr, nullptr);
     }
 
-    HWND dialog = made(built({.items = 3}), nullptr);
+    HWND dialog = madeFrom(built({.items = 3}), nullptr);
 };
 
 TEST_F(DialogsTest, TheFocusMovesOnFromWhatCannotKeepIt)
@@ -187,119 +178,6 @@ TEST(Dialogs, UnitsAreThoseOfTheFont)
     EXPECT_GE(line, FontUtil::textHeight(font.get())); // and external leading
     EXPECT_EQ(dialog.dialogToPixels({7, -3}).y, MulDiv(-3, line, 8));
     EXPECT_EQ(dialog.pixelsToDialog({101, 99}).y, MulDiv(99, 8, line));
-}
-
-/// What no change of caption and font may touch: the beginning but for its style, and the items.
-Bytes otherParts(const DialogTemplate& dialog)
-{
-    const DialogParts parts = dialogParts(dialog.bytes()).value();
-    Bytes bytes(dialog.bytes().begin(), dialog.bytes().end());
-    bytes.resize(std::max(bytes.size(), alignedTo4(parts.items)));
-    bytes.erase(bytes.begin() + static_cast<std::ptrdiff_t>(parts.caption),
-                bytes.begin() + static_cast<std::ptrdiff_t>(alignedTo4(parts.items)));
-    writeNumber<std::uint32_t>(bytes, parts.layout->style, 0);
-    return bytes;
-}
-
-/// Where the template puts each control, in dialog units.
-std::vector<RECT> placesOf(const Bytes& bytes)
-{
-    const DialogParts parts = dialogParts(bytes).value();
-    const auto word = [&](std::size_t at) { return readNumber<std::int16_t>(bytes, at); };
-    const auto behindText = [&](std::size_t at) {
-        for (; word(at) != 0 && word(at) != -1; at += 2) {
-        }
-        return at + (word(at) == 0 ? 2 : 4);
-    };
-    std::vector<RECT> places;
-    for (std::size_t at = parts.items; places.size() < parts.itemCount;) {
-        at = alignedTo4(at) + parts.layout->itemHeaderSize;
-        const std::size_t corner = at - (parts.layout->extended ? 12 : 10);
-        places.push_back({word(corner), word(corner + 2), 0, 0});
-        at = behindText(behindText(at));
-        at += parts.layout->extended ? 2 + word(at) : std::max<int>(word(at), 2);
-    }
-    return places;
-}
-
-void expectLook(HWND window)
-{
-    LOGFONTW font = {};
-    const LRESULT handle = SendMessageW(window, WM_GETFONT, 0, 0);
-    if (GetObjectW(reinterpret_cast<HFONT>(handle), sizeof font, &font) == 0)
-        return; // a control that takes none
-    EXPECT_STREQ(font.lfFaceName, L"Liberation Sans");
-    EXPECT_EQ(font.lfHeight, -12); // 9 points at 96 dots an inch
-}
-
-void expectPlace(HWND dialog, HWND control, RECT units)
-{
-    char className[30] = {};
-    GetClassNameA(control, className, sizeof className);
-    RECT frame = {};
-    GetWindowRect(control, &frame);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&frame), 2);
-    MapDialogRect(dialog, &units);
-    if (std::string(className) != UPDOWN_CLASSA) { // which goes beside its buddy
-        EXPECT_EQ(std::pair(frame.left, frame.top), std::pair(units.left, units.top));
-    }
-}
-
-/// Changes caption and font; whether the system makes a window of it. It knows not every class.
-bool isMadeAsAsked(DialogTemplate dialog, HWND parent)
-{
-    const Bytes before = otherParts(dialog);
-    dialog.setCaption(u"Bedside \u00E9 \u3042");
-    EXPECT_TRUE(dialog.setFont("Liberation Sans", 9));
-    EXPECT_TRUE(otherParts(dialog) == before);
-    Bytes bytes(dialog.bytes().begin(), dialog.bytes().end());
-    const std::size_t at = dialogParts(bytes).value().layout->style;
-    writeNumber<std::uint32_t>(bytes, at, WS_POPUP | DS_SETFONT | DS_NOFAILCREATE);
-    const HWND window = made(bytes, parent);
-    if (window == nullptr)
-        return false;
-    wchar_t title[40] = {};
-    GetWindowTextW(window, title, 40);
-    EXPECT_STREQ(title, L"Bedside \u00E9 \u3042");
-    expectLook(window);
-    std::vector<HWND> controls;
-    for (HWND control = GetTopWindow(window); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT))
-        controls.push_back(control);
-    const std::vector<RECT> places = placesOf(bytes);
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        expectLook(controls[i]);
-        if (controls.size() == places.size())
-            expectPlace(window, controls[i], places[i]);
-    }
-    DestroyWindow(window);
-    return true;
-}
-
-BOOL CALLBACK keepNumber(HMODULE, const char*, char* name, LONG_PTR numbers)
-{
-    if (IS_INTRESOURCE(name))
-        reinterpret_cast<std::vector<std::uint16_t>*>(numbers)->push_back(LOWORD(name));
-    return TRUE;
-}
-
-TEST_F(DialogsTest, ThoseOfTheSystemTakeCaptionAndFont)
-{
-    int windows = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(systemFolder())) {
-        const HMODULE module =
-            LoadLibraryExW(entry.path().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-        std::vector<std::uint16_t> numbers;
-        EnumResourceNamesA(module, RT_DIALOG, keepNumber, reinterpret_cast<LONG_PTR>(&numbers));
-        for (const std::uint16_t number : numbers) {
-            SCOPED_TRACE(entry.path().filename().string() + " " + std::to_string(number));
-            DialogTemplate resource;
-            ASSERT_TRUE(resource.load(module, number) && resource.valid());
-            windows += isMadeAsAsked(resource, dialog) ? 1 : 0;
-        }
-        FreeLibrary(module);
-    }
-    EXPECT_GT(windows, 20);
 }
 
 } // namespace

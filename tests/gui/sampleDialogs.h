@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
@@ -17,12 +18,12 @@ struct SampleDialog {
     std::u16string windowClass = {}; ///< "#" for an ordinal
     std::u16string caption = {};
     bool hasFont = true;
-    char16_t pointSize = 8; ///< 0x7FFF stands for all of a font
+    std::uint16_t pointSize = 8; ///< 0x7FFF stands for all of a font
     std::u16string face = u"MS Shell Dlg";
-    char16_t items = 2;
+    std::uint16_t items = 2;
     std::u16string weightAndCharset = {400, 1}; ///< of an extended one
     std::u16string positionAndSize = {10, 20, 150, 80};
-    char16_t creationBytes = 3; ///< of every other item
+    std::uint16_t creationBytes = 3; ///< of every other item
 
     bool hasFace() const { return hasFont && pointSize != 0x7FFF; }
 };
@@ -37,10 +38,10 @@ inline Bytes built(const SampleDialog& sample)
     const char16_t style = sample.hasFont ? 0xC0 : 0x80;
     Words words = isExtended ? Words{1, 0xFFFF, 7, 0, 0x100, 0, style, 0x80C8}
                              : Words{style, 0x80C8, 0x100, 0};
-    words += sample.items + sample.positionAndSize;
+    words += char16_t(sample.items) + sample.positionAndSize;
     words += text(sample.menu) + text(sample.windowClass) + text(sample.caption);
     if (sample.hasFont)
-        words += sample.pointSize;
+        words += char16_t(sample.pointSize);
     if (sample.hasFace())
         words += (isExtended ? sample.weightAndCharset : Words()) + text(sample.face);
     for (char16_t i = 0; i < sample.items; ++i) {
