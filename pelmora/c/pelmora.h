@@ -648,11 +648,11 @@ pelmora_status PELMORA_CALL pelmora_dialog_template_set_size(pelmora_dialog_temp
 #if defined(_WIN32)
 
 /* ==== Windows only ===============================================================================
- * HKEY, HWND, HDC, HFONT and HMODULE are passed as void*, so that <windows.h> is not needed. A null
- * module is the program itself, a null device context the screen's. */
+ * HKEY, HWND, HDC, HFONT and HMODULE are passed as void*, so that <windows.h> is not needed. A
+ * `module` may be null, which is the program itself. */
 
 /* ---- Registry ----------------------------------------------------------------------------------
- * Paths, names and string values are narrow. Reads find only values of their own type. */
+ * Paths, names and string values are narrow. An empty name is the key's default value. */
 
 enum {
     PELMORA_OPEN_READ = 1,
@@ -668,18 +668,21 @@ typedef struct pelmora_key pelmora_key;
 pelmora_status PELMORA_CALL pelmora_key_create(pelmora_key** key);
 void PELMORA_CALL pelmora_key_destroy(pelmora_key* key);
 
+/* The functions of a key fail with PELMORA_NOT_FOUND for what is not there, PELMORA_BAD_ARGUMENT
+ * where no key is open, and PELMORA_SYSTEM when the registry refuses. The message is that of
+ * pelmora_key_last_error. */
+
 /* Close the key that is open and open another, below `root` or below HKEY_LOCAL_MACHINE or else
- * HKEY_CURRENT_USER. `mode` combines PELMORA_OPEN_... PELMORA_NOT_FOUND for a key that is not
- * there, PELMORA_SYSTEM for other failures. */
+ * HKEY_CURRENT_USER. `mode` combines PELMORA_OPEN_... */
 pelmora_status PELMORA_CALL pelmora_key_open(pelmora_key* key, void* root, const char* path,
                                              uint32_t mode);
 pelmora_status PELMORA_CALL pelmora_key_open_machine_or_user(pelmora_key* key, const char* path,
                                                              uint32_t mode);
 
-/* PELMORA_NOT_FOUND for a value that is not there or has another type, PELMORA_SYSTEM for other
- * failures; the message is that of pelmora_key_last_error. An empty name is the default value. */
+/* Read a value of this type; one of another type is PELMORA_NOT_FOUND. */
 pelmora_status PELMORA_CALL pelmora_key_read_string(const pelmora_key* key, const char* name,
                                                     char* buffer, size_t capacity, size_t* length);
+/* PELMORA_MALFORMED for a value that has not 4 bytes. */
 pelmora_status PELMORA_CALL pelmora_key_read_dword(const pelmora_key* key, const char* name,
                                                    uint32_t* value);
 pelmora_status PELMORA_CALL pelmora_key_read_binary(const pelmora_key* key, const char* name,
@@ -706,13 +709,18 @@ pelmora_status PELMORA_CALL pelmora_key_write_multi_string(pelmora_key* key, con
                                                            const char* const* values,
                                                            size_t value_count);
 
+/* PELMORA_SYSTEM for every failure. */
 pelmora_status PELMORA_CALL pelmora_key_delete_value(pelmora_key* key, const char* name);
-/* Waits until the key is on the disk. `code` is the system's status, 0 on success. */
+/* Waits until the key is on the disk. `code`, which may be null, is the system's status, also of a
+ * failure. */
 pelmora_status PELMORA_CALL pelmora_key_flush(pelmora_key* key, int32_t* code);
+/* What opening, reading or writing met last: empty after a success. Narrow, with the line end that
+ * the system puts after its texts. */
 pelmora_status PELMORA_CALL pelmora_key_last_error(const pelmora_key* key, char* buffer,
                                                    size_t capacity, size_t* length);
 
-/* The number of values, and the name of one; which value has which index is up to the system. */
+/* The number of values, 0 where no key is open, and the name of one; which value has which index is
+ * up to the system. */
 pelmora_status PELMORA_CALL pelmora_key_value_count(const pelmora_key* key, uint32_t* count);
 pelmora_status PELMORA_CALL pelmora_key_value_name(const pelmora_key* key, uint32_t index,
                                                    char* buffer, size_t capacity, size_t* length);
@@ -733,7 +741,8 @@ pelmora_status PELMORA_CALL pelmora_system_error_text(uint32_t code, char* buffe
                                                       size_t* length);
 
 /* ---- Fonts -------------------------------------------------------------------------------------
- * Heights are in logical units and signed as for CreateFontA, sizes in tenths of a point. */
+ * Heights are in logical units and signed as for CreateFontA, sizes in tenths of a point. A device
+ * context may be null, which is the screen's. */
 
 typedef struct pelmora_font pelmora_font;
 
@@ -758,9 +767,9 @@ pelmora_status PELMORA_CALL pelmora_font_exists(const char* face, uint8_t charse
 pelmora_status PELMORA_CALL pelmora_font_exists_any_charset(const char* face, void* dc,
                                                             int* result);
 
-/* Of an HFONT, null for the device context's own. */
+/* Of an HFONT, null for the device context's own; `metrics` is a TEXTMETRICA. PELMORA_SYSTEM when
+ * the system does not measure it. */
 pelmora_status PELMORA_CALL pelmora_text_height(void* font, void* dc, int32_t* height);
-/* `metrics` is a TEXTMETRICA. */
 pelmora_status PELMORA_CALL pelmora_text_metrics(void* font, void* dc, void* metrics);
 pelmora_status PELMORA_CALL pelmora_decipoints_to_height(int32_t decipoints, void* dc,
                                                          int32_t* height);
@@ -778,14 +787,16 @@ typedef struct pelmora_rectangle {
 } pelmora_rectangle;
 
 /* The work area of the monitor nearest to a window, null for the thread's main window, or to a
- * point, -1 and -1 for the mouse cursor. */
+ * point, -1 and -1 for the mouse cursor. PELMORA_SYSTEM when the system does not tell. */
 pelmora_status PELMORA_CALL pelmora_work_area_of_window(void* window, pelmora_rectangle* area);
 pelmora_status PELMORA_CALL pelmora_work_area_at_point(int32_t x, int32_t y,
                                                        pelmora_rectangle* area);
 
-/* Pixels per centimetre across the window's monitor; 0 when its width is unknown. */
+/* Pixels per centimetre across the window's monitor, null for the primary one; 0 when its width is
+ * unknown. */
 pelmora_status PELMORA_CALL pelmora_monitor_pixels_per_cm(void* window, int32_t* pixels);
-/* The name under which the width of the window's monitor stands in the registry. */
+/* The name under which the width of that monitor stands in the registry; empty when the system does
+ * not tell it. */
 pelmora_status PELMORA_CALL pelmora_monitor_identifier(void* window, char* buffer, size_t capacity,
                                                        size_t* length);
 
@@ -826,14 +837,15 @@ pelmora_status PELMORA_CALL pelmora_remove_read_only(const char* path, int log_s
 /* ---- Dialogs and controls -----------------------------------------------------------------------
  * For the thread to which the windows belong. */
 
-/* PELMORA_NOT_FOUND when the module has no such dialog. */
+/* PELMORA_NOT_FOUND when the module has no such dialog, PELMORA_MALFORMED when it is not whole. */
 pelmora_status PELMORA_CALL pelmora_dialog_template_load(void* module, uint16_t resource,
                                                          pelmora_dialog_template** dialog);
 /* The font that the system reads best at a small size. */
 pelmora_status PELMORA_CALL
 pelmora_dialog_template_use_system_font(pelmora_dialog_template* dialog);
 
-/* Pixels of 4 horizontal and 8 vertical dialog units, and conversions by them. */
+/* Pixels of 4 horizontal and 8 vertical dialog units, and conversions by them. PELMORA_MALFORMED
+ * for a template that pelmora_dialog_template_set_font left without its face. */
 pelmora_status PELMORA_CALL
 pelmora_dialog_template_base_units(const pelmora_dialog_template* dialog, int32_t* x, int32_t* y);
 pelmora_status PELMORA_CALL pelmora_dialog_to_pixels(const pelmora_dialog_template* dialog,
@@ -843,15 +855,16 @@ pelmora_status PELMORA_CALL pelmora_pixels_to_dialog(const pelmora_dialog_templa
                                                      int32_t x, int32_t y, int32_t* dialog_x,
                                                      int32_t* dialog_y);
 
-/* What the dialog procedure is to return for a message; `handled` is 0 on entry. A message that is
- * not handled goes the usual way: IDOK and IDCANCEL end the dialog. */
+/* What the dialog procedure is to return for a message of a Unicode window, from WM_INITDIALOG on;
+ * `handled` is 0 on entry. A message for which it stays 0 goes the usual way: the buttons IDOK and
+ * IDCANCEL end the dialog. */
 typedef intptr_t(PELMORA_CALL* pelmora_dialog_handler)(void* window, uint32_t message,
                                                        uintptr_t w_param, intptr_t l_param,
                                                        int* handled, void* context);
 
-/* Run a modal dialog above `parent`, which may be null, from a resource with the font rule applied,
- * or from a template as it is. `result` is what it ended with; IDCANCEL with PELMORA_SYSTEM when it
- * cannot be made. */
+/* Run a modal dialog above `parent` from a resource, with pelmora_dialog_template_use_system_font,
+ * or from a template as it is. `parent` and `handler` may be null. `result` is what it ended with;
+ * IDCANCEL when the program is to quit meanwhile, and, with PELMORA_SYSTEM, when none is made. */
 pelmora_status PELMORA_CALL pelmora_run_modal_dialog(uint16_t resource, void* parent, void* module,
                                                      pelmora_dialog_handler handler, void* context,
                                                      intptr_t* result);
@@ -860,11 +873,13 @@ pelmora_status PELMORA_CALL pelmora_run_modal_dialog_template(const pelmora_dial
                                                               pelmora_dialog_handler handler,
                                                               void* context, intptr_t* result);
 
-/* Ends the dialog that runs in this window, from its handler. */
+/* Ends the dialog that runs in this window when its handler returns; destroying the window is no
+ * way to. PELMORA_BAD_ARGUMENT when this thread runs no dialog in it by the functions above. */
 pelmora_status PELMORA_CALL pelmora_end_modal_dialog(void* window, intptr_t result);
 
-/* Enable, disable, show or hide a control without leaving the focus on it. `before` is the result
- * of the C++ functions of these names. */
+/* Disable, enable, show or hide a control; the focus goes to the next one before it is disabled or
+ * hidden. `before` says whether it was disabled, and of pelmora_show_control whether it was
+ * visible; pelmora_enable_control gives `enable` when there is nothing to do. */
 pelmora_status PELMORA_CALL pelmora_disable_control(void* control, int* before);
 pelmora_status PELMORA_CALL pelmora_enable_control(void* control, int enable, int* before);
 pelmora_status PELMORA_CALL pelmora_show_control(void* control, int show, int* before);

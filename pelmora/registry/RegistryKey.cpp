@@ -59,7 +59,9 @@ void RegistryKey::KeyClose::operator()(HKEY key) const noexcept
 RegistryKey::RegistryKey() noexcept = default;
 
 RegistryKey::RegistryKey(RegistryKey&& other) noexcept
-    : handle_(std::move(other.handle_)), lastError_(std::exchange(other.lastError_, {}))
+    : handle_(std::move(other.handle_)),
+      lastError_(std::exchange(other.lastError_, {})),
+      lastStatus_(std::exchange(other.lastStatus_, 0))
 {
 }
 
@@ -68,6 +70,7 @@ RegistryKey& RegistryKey::operator=(RegistryKey&& other) noexcept
     RegistryKey taken(std::move(other));
     handle_.swap(taken.handle_);
     lastError_.swap(taken.lastError_);
+    std::swap(lastStatus_, taken.lastStatus_);
     return *this;
 }
 
@@ -107,16 +110,18 @@ bool RegistryKey::openMachineOrUser(const AnsiText& path, OpenMode mode)
 /// Whether there is a key to read from or write to; keeps that there is none.
 bool RegistryKey::isOpen() const
 {
-    if (handle_ == nullptr)
-        lastError_ = "key not opened";
-    return handle_ != nullptr;
+    if (handle_ != nullptr)
+        return true;
+    lastStatus_ = ERROR_INVALID_HANDLE;
+    lastError_ = "key not opened";
+    return false;
 }
 
-/// Whether the call succeeded; keeps the text of its failure.
+/// Whether the call succeeded; keeps its status and the text of its failure.
 bool RegistryKey::succeeded(long status) const
 {
-    lastError_ = status == ERROR_SUCCESS ? std::string()
-                                         : systemErrorText(static_cast<std::uint32_t>(status));
+    lastStatus_ = static_cast<std::uint32_t>(status);
+    lastError_ = status == ERROR_SUCCESS ? std::string() : systemErrorText(lastStatus_);
     return status == ERROR_SUCCESS;
 }
 
@@ -145,6 +150,7 @@ bool RegistryKey::queryValue(const std::string& name, unsigned long expectedType
         return false;
     if (type == expectedType)
         return true;
+    lastStatus_ = ERROR_DATATYPE_MISMATCH;
     // The "<< " and the missing blank stay, on purpose: readers of logs match the text.
     lastError_ = "The value: '" + name + "' has type: << " + std::to_string(type) +
                  ", type expected:" + std::to_string(expectedType);
@@ -275,6 +281,11 @@ long RegistryKey::flush()
 std::string RegistryKey::lastError() const
 {
     return lastError_;
+}
+
+std::uint32_t RegistryKey::lastStatus() const noexcept
+{
+    return lastStatus_;
 }
 
 ValueNameIterator RegistryKey::valueNamesBegin() const

@@ -136,6 +136,10 @@ public:
     /// text for the status (see `systemErrorText`).
     std::string lastError() const;
 
+    /// The system's number for the same: 0 after a success, ERROR_INVALID_HANDLE without a key,
+    /// ERROR_DATATYPE_MISMATCH for a value of another type.
+    std::uint32_t lastStatus() const noexcept;
+
     ValueNameIterator valueNamesBegin() const;
     /// Past the last value that the key has now. Equal to `valueNamesBegin` without a key and when
     /// the system does not tell the number of values.
@@ -157,6 +161,7 @@ private:
 
     std::unique_ptr<std::remove_pointer_t<HKEY>, KeyClose> handle_;
     mutable std::string lastError_;
+    mutable std::uint32_t lastStatus_ = 0;
 };
 
 } // namespace Pelmora::Native

@@ -77,6 +77,10 @@ int main(int argc, char** argv)
     checkTexts();
     checkServices(argv[1], argv[2]);
     checkDialogTemplates();
+#if defined(_WIN32)
+    checkRegistry();
+    checkWindows(argv[2]);
+#endif
     if (failures == 0)
         puts("every function of the C interface does what it says");
     return failures == 0 ? 0 : 1;

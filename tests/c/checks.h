@@ -43,5 +43,7 @@ void checkUnits(void);
 void checkTexts(void);
 void checkServices(const char* catalogues, const char* folder);
 void checkDialogTemplates(void);
+void checkRegistry(void);
+void checkWindows(const char* folder);
 
 #endif

@@ -14,7 +14,13 @@ exported = {line.split()[0]
 
 # What may be null, by name; "function.parameter" where the name alone would be too much.
 NULLABLE = {"length", "count", "size", "context", "address", "user", "password", "has_point",
-            "whole", "valid", "translator", "pelmora_tr.text", "pelmora_log_configure.header"}
+            "whole", "valid", "translator", "pelmora_tr.text", "pelmora_log_configure.header",
+            "parent", "module", "handler", "pelmora_key_flush.code", "pelmora_text_height.font",
+            "pelmora_text_metrics.font", "pelmora_work_area_of_window.window",
+            "pelmora_monitor_pixels_per_cm.window", "pelmora_monitor_identifier.window",
+            *(f"pelmora_{name}.dc"
+              for name in ("text_height", "text_metrics", "font_exists", "font_exists_any_charset",
+                           "decipoints_to_height", "height_to_decipoints"))}
 
 PROGRAM = """#include "pelmora/c/pelmora.h"
 
@@ -92,7 +98,7 @@ for function, list_ in re.findall(r"PELMORA_CALL\s+(pelmora_\w+)\(([^()]*)\);", 
             continue
         arguments, clear, results = [], [], []
         for kind, name in parameters:
-            if name == "translator":
+            if name in ("translator", "handler"):
                 argument, condition = "NULL", None
             else:
                 argument, condition = harmless(name, kind, results)
