@@ -4,9 +4,8 @@
 
 namespace Pelmora
 {
-    /// <summary>The base-unit kinds. The values are stored and exchanged as numbers: they never
-    /// change. A kind of any other value is treated as <c>UNIT_NUMBER_OF</c> by every table of the
-    /// library.</summary>
+    /// <summary>The kinds of base units. Their numbers are stored and exchanged, and never change.
+    /// Every other number counts as <c>UNIT_NUMBER_OF</c>.</summary>
     public enum UnitTypeEnum : int
     {
         /// <summary>gram</summary>
@@ -21,7 +20,7 @@ namespace Pelmora
         UNIT_HR = 4,
         /// <summary>metre</summary>
         UNIT_M = 5,
-        /// <summary>mile, U.S. survey mile of 1609.34721869 m</summary>
+        /// <summary>U.S. survey mile, 1609.34721869 m</summary>
         UNIT_MIUS = 6,
         /// <summary>inch, 0.0254 m</summary>
         UNIT_INCH = 7,
@@ -37,12 +36,12 @@ namespace Pelmora
         UNIT_PROCENT = 12,
         /// <summary>gram of the patient's body weight; never merges with <c>UNIT_G</c></summary>
         UNIT_G_PT = 13,
-        /// <summary>count of the kinds, and the kind that stands for nothing</summary>
+        /// <summary>the number of kinds; as a kind, it stands for nothing</summary>
         UNIT_NUMBER_OF = 14,
     }
 
-    /// <summary>The decimal prefixes: the power of 1000 by which the base unit is scaled. A value
-    /// outside -3 ... 3 has the factor 0 and no symbol.</summary>
+    /// <summary>The decimal prefixes. Each number is the power of 1000 by which the base unit is
+    /// multiplied. A number outside -3 ... 3 has the factor 0 and no symbol.</summary>
     public enum UnitPrefix : int
     {
         NANO = -3,

@@ -47,7 +47,8 @@
 #include <stddef.h>
 #include <stdint.h>
 
-#if defined(_WIN32) /* the one place where the systems differ: convention and wide character */
+#if defined(_WIN32) /* calling convention and wide character; Windows-only functions are at the    \
+                       end */
 #define PELMORA_CALL __cdecl
 typedef wchar_t pelmora_char16;
 #else
@@ -729,7 +730,8 @@ pelmora_status PELMORA_CALL pelmora_key_value_name(const pelmora_key* key, uint3
  * PELMORA_SYSTEM for every failure. */
 pelmora_status PELMORA_CALL pelmora_regi_read(void* root, const char* path, const char* name,
                                               const char* fallback, int log, char* buffer,
-                                              size_t capacity, size_t* length); /* never fails so */
+                                              size_t capacity,
+                                              size_t* length); /* gives the fallback */
 pelmora_status PELMORA_CALL pelmora_regi_write(void* root, const char* path, const char* name,
                                                const char* value, int log);
 pelmora_status PELMORA_CALL pelmora_regi_delete(void* root, const char* path, const char* name,

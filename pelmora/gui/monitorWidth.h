@@ -11,7 +11,7 @@
 namespace Pelmora::Native
 {
 
-/// The registry key, below HKEY_LOCAL_MACHINE, with the width of each monitor model.
+/// The registry key, below HKEY_LOCAL_MACHINE, with the width of each connected monitor.
 inline constexpr const char* monitorWidthTable = "SOFTWARE\\Tavelin\\MonitorWidthsMM";
 
 /// Whether a byte is the first of a character of two bytes.

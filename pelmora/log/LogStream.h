@@ -76,8 +76,8 @@ private:
 
     std::FILE* file_ = nullptr;
     std::string path_;
-    // Stream, path and markers are the object's layout, which stays. Every write makes the markers
-    // equal; the library never reads them.
+    // Stream, path and markers stand in this order in every version of the object. Each write makes
+    // the second marker equal to the first; the library itself reads neither.
     std::int32_t marker_ = 0;
     std::atomic<std::int32_t> writtenMarker_ = 0;
     std::uint32_t process_; ///< the one that made the log, and ends it

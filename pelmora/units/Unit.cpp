@@ -46,15 +46,16 @@ ElementList isoElements(Elements elements)
     return result;
 }
 
-/// For each kind, the value of its ISO kind's digit in a number of base 64.
+/// For each kind, the value of its ISO kind's digit in a number of base 64. An int64 has room for
+/// ten digits and for the sums of an eleventh; more ISO kinds need a wider number.
 constexpr std::array<std::int64_t, kindRows.size()> isoPlaces = [] {
     std::array<std::int64_t, kindRows.size()> places{};
-    std::int64_t next = 1;
+    std::int64_t last = 0;
     for (std::size_t kind = 0; kind < kindRows.size(); ++kind) {
         const auto isoKind = static_cast<std::size_t>(kindRows[kind].isoKind);
         if (places[isoKind] == 0) {
-            places[isoKind] = next;
-            next *= 64;
+            last = last == 0 ? 1 : last * 64;
+            places[isoKind] = last;
         }
         places[kind] = places[isoKind];
     }
