@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -82,8 +83,7 @@ pelmora_status failByException() noexcept
         const std::string_view parts[] = {"'", error.parameter, "' is null"};
         auto end = text.begin();
         for (const std::string_view part : parts)
-            end = std::copy_n(part.begin(), std::min<std::size_t>(part.size(), text.end() - end),
-                              end);
+            end = std::copy_n(part.begin(), std::min(std::ssize(part), text.end() - end), end);
         return fail(PELMORA_NULL_ARGUMENT, {text.begin(), end});
     } catch (const Failure& error) {
         return fail(error.status, error.message);
