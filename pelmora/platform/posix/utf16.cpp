@@ -1,33 +1,13 @@
 #include "pelmora/platform/posix/utf16.h"
 
+#include "pelmora/base/detail/utf8.h"
+
 #include <cstdint>
 
 namespace Pelmora::Native::Platform
 {
 namespace
 {
-
-void appendUtf8(std::string& result, std::uint32_t character)
-{
-    const auto continuation = [&](unsigned int shift) {
-        result += static_cast<char>(0x80U | (character >> shift & 0x3FU));
-    };
-    if (character < 0x80) {
-        result += static_cast<char>(character);
-    } else if (character < 0x800) {
-        result += static_cast<char>(0xC0U | character >> 6U);
-        continuation(0);
-    } else if (character < 0x10000) {
-        result += static_cast<char>(0xE0U | character >> 12U);
-        continuation(6);
-        continuation(0);
-    } else {
-        result += static_cast<char>(0xF0U | character >> 18U);
-        continuation(12);
-        continuation(6);
-        continuation(0);
-    }
-}
 
 void appendUtf16(WideString& result, std::uint32_t character)
 {
@@ -52,7 +32,7 @@ std::string toUtf8(WideView text)
                             (text[i + 1] & 0xFC00U) == 0xDC00U;
         if (isPair)
             character = 0x10000U + ((character & 0x3FFU) << 10U) + (text[++i] & 0x3FFU);
-        appendUtf8(result, character);
+        result += encodeUtf8(character).view();
     }
     return result;
 }
