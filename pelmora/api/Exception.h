@@ -27,7 +27,9 @@ public:
     ~Exception() override;
 
     Exception(const Exception&) = default;
-    Exception& operator=(const Exception&) = default;
+    Exception(Exception&&) noexcept = default;
+    Exception& operator=(const Exception& other) { return *this = Exception(other); }
+    Exception& operator=(Exception&&) noexcept = default;
 
     const GString& message() const noexcept { return message_; }
     const GString& source() const noexcept { return source_; }

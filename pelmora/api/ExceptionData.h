@@ -30,6 +30,13 @@ public:
     GString mDestination; ///< where the report is to go
     GString mParameters;  ///< anything more
 
+    ExceptionData(const ExceptionData&) = default;
+    ExceptionData(ExceptionData&&) noexcept = default;
+    /// The whole record is copied or, without memory, none of it.
+    ExceptionData& operator=(const ExceptionData& other) { return *this = ExceptionData(other); }
+    ExceptionData& operator=(ExceptionData&&) noexcept = default;
+    ~ExceptionData() = default;
+
     ExceptionData();
     /// Takes source, site, message and stack of an `Exception`, and the message of any other
     /// exception, read as UTF-8 if it is well-formed and in the ANSI code page otherwise.

@@ -3,6 +3,7 @@
 #include "pelmora/units/ElementList.h"
 
 #include <string>
+#include <utility>
 
 namespace Pelmora::Native
 {
@@ -91,6 +92,17 @@ struct PELMORA_API Unit {
 struct ScaledUnit {
     double factor;
     Unit unit;
+
+    ScaledUnit(double scale, Unit unitOfScaled) noexcept
+        : factor(scale), unit(std::move(unitOfScaled))
+    {
+    }
+    ScaledUnit(const ScaledUnit&) = default;
+    ScaledUnit(ScaledUnit&&) noexcept = default;
+    /// Factor and unit change together or, without memory for the unit, not at all.
+    ScaledUnit& operator=(const ScaledUnit& other) { return *this = ScaledUnit(other); }
+    ScaledUnit& operator=(ScaledUnit&&) noexcept = default;
+    ~ScaledUnit() = default;
 };
 
 } // namespace Pelmora::Native

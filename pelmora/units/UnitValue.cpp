@@ -44,8 +44,7 @@ double UnitValue::getConvertedValue(const Unit& target) const noexcept
 
 void UnitValue::convertTo(const Unit& target)
 {
-    value = getConvertedValue(target);
-    unit = target;
+    *this = UnitValue(getConvertedValue(target), target);
 }
 
 UnitValue UnitValue::toNormalized(int maxMagnitude) const

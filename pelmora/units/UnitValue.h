@@ -14,6 +14,12 @@ struct PELMORA_API UnitValue {
     Unit unit;
 
     UnitValue(double number, const Unit& unitOfNumber) : value(number), unit(unitOfNumber) {}
+    UnitValue(const UnitValue&) = default;
+    UnitValue(UnitValue&&) noexcept = default;
+    /// Number and unit change together or, without memory for the unit, not at all.
+    UnitValue& operator=(const UnitValue& other) { return *this = UnitValue(other); }
+    UnitValue& operator=(UnitValue&&) noexcept = default;
+    ~UnitValue() = default;
 
     /// The product, in the product of the units, which is not reduced. A value with an invalid unit
     /// is a neutral operand: the result is the other value, and this one if both units are invalid.
@@ -32,7 +38,7 @@ struct PELMORA_API UnitValue {
     /// The number in `target`, without meaning if the units are not compatible.
     double getConvertedValue(const Unit& target) const noexcept;
 
-    /// Converts this value to `target`.
+    /// Converts this value to `target`, number and unit together or, without memory, not at all.
     void convertTo(const Unit& target);
 
     /// The value with the prefix of its unit's first positive element moved until the number is at
