@@ -34,6 +34,7 @@ constexpr std::size_t longestNumber = 1 + 309 + 1 + longestFraction; // sign, DB
 std::string streamedNumber(double value, NumberFormat format)
 {
     std::ostringstream stream;
+    stream.exceptions(std::ios_base::badbit); // or it would cut the number where memory ran out
     if (format.fixed)
         stream.setf(std::ios_base::fixed, std::ios_base::floatfield);
     stream.precision(format.precision);
