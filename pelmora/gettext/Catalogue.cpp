@@ -1,5 +1,6 @@
 #include "pelmora/gettext/Catalogue.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -25,7 +26,10 @@ struct FileCloser {
 /// a narrow path outside the code page could not be converted.
 std::optional<std::string> fileContent(const std::string& path)
 {
+    errno = 0;
     const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
+    if (file == nullptr && errno == ENOMEM)
+        throw std::bad_alloc();
     if (file == nullptr || std::fseek(file.get(), 0, SEEK_END) != 0)
         return std::nullopt;
     const long size = std::ftell(file.get());
@@ -36,10 +40,9 @@ std::optional<std::string> fileContent(const std::string& path)
         std::string content(static_cast<std::size_t>(size), '\0');
         content.resize(std::fread(content.data(), 1, content.size(), file.get()));
         return content;
-    } catch (const std::bad_alloc&) {
     } catch (const std::length_error&) { // ftell on a folder gives LONG_MAX on Linux
+        return std::nullopt;
     }
-    return std::nullopt;
 }
 
 std::uint32_t byteSwapped(std::uint32_t value)
@@ -98,15 +101,11 @@ bool Catalogue::load(std::string path)
 {
     if (path.size() <= 3 || !endsInMo(path))
         path += ".mo";
-    *this = Catalogue();
-    std::optional<std::string> content = fileContent(path);
-    if (!content || content->size() < smallestFile)
-        return false;
-    data_ = *std::move(content);
-    if (readHeader())
-        return true;
-    *this = Catalogue();
-    return false;
+    Catalogue loaded;
+    loaded.data_ = fileContent(path).value_or("");
+    const bool isCatalogue = loaded.data_.size() >= smallestFile && loaded.readHeader();
+    *this = isCatalogue ? std::move(loaded) : Catalogue();
+    return isCatalogue;
 }
 
 bool Catalogue::readHeader() noexcept

@@ -25,7 +25,8 @@ class PELMORA_API Catalogue
 public:
     /// Reads the file, with ".mo" appended to a path that does not end in it. The path is narrow
     /// text as the C library takes it. Returns false and leaves the catalogue empty if the file
-    /// cannot be read, has fewer than 29 bytes or does not begin as a catalogue.
+    /// cannot be read, has fewer than 29 bytes or does not begin as a catalogue; without memory,
+    /// the catalogue stays as it was.
     bool load(std::string path);
 
     /// The translation, read as text of the ANSI code page; empty when there is none.

@@ -102,15 +102,17 @@ TextLocale& gettext_locale = processLocale();
 
 void TextLocale::init(const std::string& path)
 {
-    path_ = path;
-    language_ = languageOf(path_);
-    catalogue_ = nullptr;
-    if (!path_.empty()) {
-        auto loaded = std::make_unique<Catalogue>();
-        if (loaded->load(path_))
-            catalogue_ = std::move(loaded);
-    }
-    catalogueIsUtf8_ = catalogue_ != nullptr && isUtf8(*catalogue_);
+    std::string language = languageOf(path);
+    std::string kept = path;
+    auto catalogue = std::make_unique<Catalogue>();
+    if (path.empty() || !catalogue->load(path))
+        catalogue = nullptr;
+    const bool utf8 = catalogue != nullptr && isUtf8(*catalogue);
+    // Nothing throws from here on.
+    path_ = std::move(kept);
+    language_ = std::move(language);
+    catalogue_ = std::move(catalogue);
+    catalogueIsUtf8_ = utf8;
     initialised_ = true;
 }
 
