@@ -4,6 +4,7 @@
 #include "pelmora/gettext/TextLocale.h"
 #include "pelmora/log/osVersion.h"
 #include "pelmora/platform/appendingFile.h"
+#include "pelmora/platform/forcedUnwind.h"
 #include "pelmora/platform/keepLoaded.h"
 #include "pelmora/platform/localTime.h"
 #include "pelmora/platform/notepad.h"
@@ -57,6 +58,8 @@ std::string label(const char* text)
 {
     try {
         return gettext_locale.tr(text).to_narrow();
+    } catch (const Platform::ForcedUnwind&) {
+        throw;
     } catch (...) {
         return text;
     }
@@ -110,13 +113,16 @@ LogStream::~LogStream()
 /// the header is written. If memory runs out, the header lacks some parts.
 void LogStream::begin()
 {
+    struct End { // also when a translator's thread is cancelled
+        LogStream& log;
+        ~End() { log.endComposing(); }
+    } const end = {*this};
     if (file_ != nullptr) {
         const std::string date = label("Date:"); // in this order, because each may log
         const std::string time = label(" Time:");
         composesHeader_ = false;
         writeHeader(date, time);
     }
-    endComposing();
 }
 
 void LogStream::writeHeader(const std::string& date, const std::string& time)

@@ -25,8 +25,9 @@ namespace Pelmora::Native
 /// it, but none overwrites another's lines. Narrow text is written as it is, by convention in the
 /// ANSI code page. If memory runs out, parts of the header may be missing.
 ///
-/// If the file cannot be opened, "unable to open " and its path are printed on standard output
-/// without a line end, and everything that is logged is dropped without an error.
+/// If memory runs out before there is a log, `get_log` throws std::bad_alloc, and its next call
+/// tries again. If the file cannot be opened, "unable to open " and its path are printed on
+/// standard output without a line end, and everything that is logged is dropped without an error.
 ///
 /// Once there is a log, the library stays loaded until the process ends.
 ///

@@ -11,7 +11,7 @@
 // have no counterpart are replaced, never reported: by what the code page's table of best fits
 // says, otherwise by its default character. Linux has such tables for 932, 936, 949 and 1252 only,
 // and no user-defined characters in 936 and 949. Both functions stop at the terminating NUL, which
-// is converted too. Safe to call from several threads.
+// is converted too. Safe to call from several threads; lack of memory is std::bad_alloc.
 
 namespace Pelmora::Native::Platform
 {

@@ -1,12 +1,14 @@
 #include "pelmora/platform/appendingFile.h"
 
+#include <new>
+
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace Pelmora::Native::Platform
 {
 
-std::FILE* openForAppending(const std::string& path, bool truncate) noexcept
+std::FILE* openForAppending(const std::string& path, bool truncate)
 {
     constexpr mode_t readAndWriteAsTheUserAllows = 0666;
     const int descriptor =
@@ -15,8 +17,10 @@ std::FILE* openForAppending(const std::string& path, bool truncate) noexcept
     if (descriptor < 0)
         return nullptr;
     std::FILE* const file = fdopen(descriptor, "a");
-    if (file == nullptr)
+    if (file == nullptr) { // only for want of memory
         close(descriptor);
+        throw std::bad_alloc();
+    }
     return file;
 }
 

@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <cstring>
 #include <iterator>
+#include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -51,13 +53,27 @@ std::string iconvName(unsigned int page)
     return "CP" + std::to_string(page);
 }
 
+const iconv_t noConverter = reinterpret_cast<iconv_t>(-1); // NOLINT: iconv's own error value
+
+/// `noConverter` for a page that iconv does not know.
+iconv_t openConverter(const std::string& to, const std::string& from)
+{
+    iconv_t handle = iconv_open(to.c_str(), from.c_str());
+    if (handle == noConverter && errno != ENOMEM) {
+        // Without memory to load a converter, iconv does not know its page either.
+        constexpr std::size_t moreThanLoadingTakes = 65536;
+        static_cast<void>(std::make_unique<char[]>(moreThanLoadingTakes));
+        handle = iconv_open(to.c_str(), from.c_str());
+    }
+    if (handle == noConverter && errno == ENOMEM)
+        throw std::bad_alloc();
+    return handle;
+}
+
 class Converter
 {
 public:
-    Converter(const std::string& to, const std::string& from)
-        : handle_(iconv_open(to.c_str(), from.c_str()))
-    {
-    }
+    Converter(const std::string& to, const std::string& from) : handle_(openConverter(to, from)) {}
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
     ~Converter()
@@ -66,26 +82,30 @@ public:
             iconv_close(handle_);
     }
 
-    bool valid() const
-    {
-        return handle_ != reinterpret_cast<iconv_t>(-1); // NOLINT: iconv's own error value
-    }
+    bool valid() const { return handle_ != noConverter; }
 
     /// Converts as much as possible; 0 when that is all, otherwise the error number.
     int convert(char*& in, std::size_t& inLeft, char*& out, std::size_t& outLeft)
     {
-        const auto irreversible = iconv(handle_, &in, &inLeft, &out, &outLeft);
-        return irreversible == static_cast<std::size_t>(-1) ? errno : 0;
+        return error(iconv(handle_, &in, &inLeft, &out, &outLeft));
     }
 
     /// Writes what iconv holds back until more text comes.
     int flush(char*& out, std::size_t& outLeft)
     {
-        const auto irreversible = iconv(handle_, nullptr, nullptr, &out, &outLeft);
-        return irreversible == static_cast<std::size_t>(-1) ? errno : 0;
+        return error(iconv(handle_, nullptr, nullptr, &out, &outLeft));
     }
 
 private:
+    static int error(std::size_t irreversible)
+    {
+        if (irreversible != static_cast<std::size_t>(-1))
+            return 0;
+        if (errno == ENOMEM)
+            throw std::bad_alloc();
+        return errno;
+    }
+
     iconv_t handle_;
 };
 

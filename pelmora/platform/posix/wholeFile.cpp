@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <memory>
+#include <new>
 
 #include <unistd.h>
 
@@ -22,6 +23,8 @@ using File = std::unique_ptr<std::FILE, Closer>;
 
 std::error_code lastError()
 {
+    if (errno == ENOMEM)
+        throw std::bad_alloc();
     return {errno, systemErrors()};
 }
 
@@ -56,9 +59,10 @@ std::error_code writeWholeFile(const WideString& name, std::string_view bytes)
     // The last bytes leave the buffer only here.
     if (std::fclose(file.release()) == 0 && written)
         return {};
-    const std::error_code error = lastError();
+    const int error = errno;
     unlink(path.c_str());
-    return error;
+    errno = error;
+    return lastError();
 }
 
 } // namespace Pelmora::Native::Platform

@@ -7,7 +7,7 @@
 namespace Pelmora::Native::Platform
 {
 
-std::FILE* openForAppending(const std::string& path, bool truncate) noexcept
+std::FILE* openForAppending(const std::string& path, bool truncate)
 {
     if (truncate) {
         std::FILE* const emptied = std::fopen(path.c_str(), "w");
