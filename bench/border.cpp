@@ -1,17 +1,17 @@
+#include "bench/measure.h"
+
 #include "pelmora/c/pelmora.h"
 #include "pelmora/units/unitText.h"
 
 #include <array>
 
-#include <benchmark/benchmark.h>
-
-// What a call of the C interface costs beside the same call of the C++ one. Pairs of benchmarks are
-// named "work/native" and "work/C".
+// What a call of the C interface costs beside the same call of the C++ one.
 
 namespace
 {
 
 using namespace Pelmora::Native;
+using Pelmora::Bench::Measured;
 using enum UnitTypeEnum;
 using enum UnitPrefix;
 
@@ -32,102 +32,53 @@ struct Operands {
     UnitValue value = UnitValue(2.5, nativeDose);
 };
 
-/// Runs `work` on operands that the compiler cannot see through.
-template <class Work>
-void measure(benchmark::State& state, const Work& work)
-{
-    Operands operands;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(operands);
-        benchmark::DoNotOptimize(work(operands));
-    }
-}
-
-/// The same for a C call that writes a text.
+/// A C call that writes a text, as a work.
 template <class Call>
-void measureText(benchmark::State& state, const Call& call)
+auto text(Call call)
 {
-    measure(state, [&](const Operands& operands) {
+    return [o = Operands(), call] {
         std::array<pelmora_char16, 64> buffer;
         size_t length = 0;
-        call(operands, buffer.data(), buffer.size(), &length);
-        benchmark::DoNotOptimize(buffer);
-        return length;
-    });
+        call(o, buffer.data(), buffer.size(), &length);
+        return buffer;
+    };
 }
 
-void convertNative(benchmark::State& state)
-{
-    measure(state, [](const Operands& o) { return o.value.getConvertedValue(o.nativeTarget); });
-}
-BENCHMARK(convertNative)->Name("convert/native");
+const Measured convertC("C: convert/ours", [o = Operands()] {
+    double result = 0;
+    pelmora_value_convert(2.5, o.dose.data(), 3, o.target.data(), 3, &result);
+    return result;
+});
+const Measured convertNative("C: convert/C++", [o = Operands()] {
+    return o.value.getConvertedValue(o.nativeTarget);
+});
 
-void convertC(benchmark::State& state)
-{
-    measure(state, [](const Operands& o) {
-        double result = 0;
-        pelmora_value_convert(2.5, o.dose.data(), 3, o.target.data(), 3, &result);
-        return result;
-    });
-}
-BENCHMARK(convertC)->Name("convert/C");
+const Measured compatibleC("C: compatible/ours", [o = Operands()] {
+    int result = 0;
+    pelmora_unit_compatible(o.dose.data(), 3, o.target.data(), 3, &result);
+    return result;
+});
+const Measured compatibleNative("C: compatible/C++", [o = Operands()] {
+    return o.nativeDose.compatibleWith(o.nativeTarget);
+});
 
-void compatibleNative(benchmark::State& state)
-{
-    measure(state, [](const Operands& o) { return o.nativeDose.compatibleWith(o.nativeTarget); });
-}
-BENCHMARK(compatibleNative)->Name("compatible/native");
+const Measured unitTextC("C: unit text/ours", text([](const Operands& o, auto... buffer) {
+                             pelmora_unit_text(o.dose.data(), 3, buffer...);
+                         }));
+const Measured unitTextNative("C: unit text/C++",
+                              [o = Operands()] { return o.nativeDose.toString(); });
 
-void compatibleC(benchmark::State& state)
-{
-    measure(state, [](const Operands& o) {
-        int result = 0;
-        pelmora_unit_compatible(o.dose.data(), 3, o.target.data(), 3, &result);
-        return result;
-    });
-}
-BENCHMARK(compatibleC)->Name("compatible/C");
+const Measured valueTextC("C: value text/ours", text([](const Operands& o, auto... buffer) {
+                              pelmora_value_text(2.5, o.dose.data(), 3, 2, buffer...);
+                          }));
+const Measured valueTextNative("C: value text/C++",
+                               [o = Operands()] { return o.value.toString(2); });
 
-void unitTextNative(benchmark::State& state)
-{
-    measure(state, [](const Operands& o) { return o.nativeDose.toString(); });
-}
-BENCHMARK(unitTextNative)->Name("unit text/native");
-
-void unitTextC(benchmark::State& state)
-{
-    measureText(state, [](const Operands& o, auto... buffer) {
-        pelmora_unit_text(o.dose.data(), 3, buffer...);
-    });
-}
-BENCHMARK(unitTextC)->Name("unit text/C");
-
-void valueTextNative(benchmark::State& state)
-{
-    measure(state, [](const Operands& o) { return o.value.toString(2); });
-}
-BENCHMARK(valueTextNative)->Name("value text/native");
-
-void valueTextC(benchmark::State& state)
-{
-    measureText(state, [](const Operands& o, auto... buffer) {
-        pelmora_value_text(2.5, o.dose.data(), 3, 2, buffer...);
-    });
-}
-BENCHMARK(valueTextC)->Name("value text/C");
-
-void normalizedTextNative(benchmark::State& state)
-{
-    measure(state, [](const Operands& o) { return o.value.toNormalizedString(3); });
-}
-BENCHMARK(normalizedTextNative)->Name("normalised text/native");
-
-void normalizedTextC(benchmark::State& state)
-{
-    measureText(state, [](const Operands& o, auto... buffer) {
-        pelmora_value_normalized_text(2.5, o.dose.data(), 3, 3, buffer...);
-    });
-}
-BENCHMARK(normalizedTextC)->Name("normalised text/C");
+const Measured
+    normalizedTextC("C: normalised text/ours", text([](const Operands& o, auto... buffer) {
+                        pelmora_value_normalized_text(2.5, o.dose.data(), 3, 3, buffer...);
+                    }));
+const Measured normalizedTextNative("C: normalised text/C++",
+                                    [o = Operands()] { return o.value.toNormalizedString(3); });
 
 } // namespace
