@@ -4,6 +4,8 @@
 #include "tests/printing.h"
 
 #include <ctime>
+#include <iterator>
+#include <random>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -110,6 +112,23 @@ TEST(ManagedXMLParser, TextAndAttributes)
     EXPECT_EQ(parser.getAttribute("a"), u"\u00E9");
     EXPECT_NE(parser.getElementWithAttributeValue("\xE9", "\xE9"), u"");
     EXPECT_EQ(parser.getElement("Action"), u"");
+}
+
+// Long runs of ASCII are converted otherwise than single characters, and in pieces.
+TEST(ManagedXMLParser, TextComesBackAsItWas)
+{
+    const GString characters[] = {u"a", u"\u00E9", u"\u0800", u"\uFFFD", u"\U00010000"};
+    std::minstd_rand random;
+    ManagedXMLParser parser;
+    for (int i = 0; i < 300; ++i) {
+        GString text;
+        const auto size = random() % 2000;
+        const auto oftenAscii = random() % 40;
+        while (text.text().size() < size)
+            text += characters[random() % 40 < oftenAscii ? 0 : random() % std::size(characters)];
+        ASSERT_TRUE(parser.parseFromString(GString(u"<r>") + text + u"</r>"));
+        ASSERT_EQ(parser.getElement(u"r"), text) << i;
+    }
 }
 
 TEST(ManagedXMLParser, FilesInTheirEncodings)
