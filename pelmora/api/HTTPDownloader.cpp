@@ -39,8 +39,8 @@ bool hasStatedLength(const HttpResponse& response)
            length == response.body.size();
 }
 
-std::optional<std::string> download(const HttpAddress& origin, const HttpCredentials* credentials,
-                                    const Deadline& deadline)
+std::optional<Pieces> download(const HttpAddress& origin, const HttpCredentials* credentials,
+                               const Deadline& deadline)
 {
     constexpr int mostRedirects = 50;
     HttpAddress address = origin;
@@ -71,9 +71,10 @@ bool hasControlCharacters(std::string_view text)
     });
 }
 
-bool replaceFile(const GString& name, std::string_view content)
+bool replaceFile(const GString& name, const Pieces& content)
 {
-    return !Platform::deleteFile(name.text()) && !Platform::writeWholeFile(name.text(), content);
+    return !Platform::deleteFile(name.text()) &&
+           !Platform::writeWholeFile(name.text(), content.all());
 }
 
 Deadline deadlineIn(int milliseconds)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pelmora/base/detail/Pieces.h"
+
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
@@ -34,7 +36,7 @@ struct HttpResponse {
     /// The length as the server states it, unchecked; absent when it states none, and when the body
     /// came in chunks, which have their own lengths.
     std::optional<std::string> contentLength;
-    std::string body;
+    Pieces body;
 };
 
 using Deadline = std::optional<std::chrono::steady_clock::time_point>; ///< none: no limit

@@ -2,8 +2,8 @@
 
 #include "pelmora/base/wideChar.h"
 
+#include <span>
 #include <string>
-#include <string_view>
 #include <system_error>
 
 // What the host must provide to read, delete and write files whole.
@@ -21,8 +21,8 @@ std::error_code readWholeFile(const WideString& name, std::string& bytes);
 /// A file that is not there is no error; a folder is never deleted.
 std::error_code deleteFile(const WideString& name);
 
-/// Makes or truncates the file. One that could not be written to its end is deleted, because nobody
-/// could tell it from a whole one.
-std::error_code writeWholeFile(const WideString& name, std::string_view bytes);
+/// Makes or truncates the file, and writes the pieces one after the other. One that could not be
+/// written to its end is deleted, because nobody could tell it from a whole one.
+std::error_code writeWholeFile(const WideString& name, std::span<const std::string> pieces);
 
 } // namespace Pelmora::Native::Platform

@@ -8,8 +8,10 @@
 
 #include <cstdlib>
 #include <set>
+#include <string>
 #include <tuple>
 #include <variant>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -67,7 +69,8 @@ TEST(SystemFailures, TemporaryFolderFallsBackToTheEnvironment)
 TEST(SystemFailures, FilesOnAFullDiskAreDeleted)
 {
     const TemporaryFolder folder;
-    EXPECT_EQ(writeWholeFile(folder.path("f").wstring(), "text").value(), ERROR_DISK_FULL);
+    EXPECT_EQ(writeWholeFile(folder.path("f").wstring(), std::vector<std::string>{"text"}).value(),
+              ERROR_DISK_FULL);
     EXPECT_FALSE(std::filesystem::exists(folder.path("f")));
 }
 

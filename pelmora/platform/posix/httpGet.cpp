@@ -31,7 +31,7 @@ Handle newHandle()
 /// What curl hands over. A transfer may have several responses: an interim one, or a demand for
 /// authentication, comes before the last.
 struct Arrivals {
-    std::string body;
+    Pieces body;
     std::size_t bodySize = 0; ///< of the last response, with what exceeds the stated length
     bool inHead = false;
     bool headCutShort = false; ///< of a response before the last
@@ -41,7 +41,7 @@ struct Arrivals {
 std::size_t keepBody(char* data, std::size_t one, std::size_t size, void* arrivals) noexcept
 {
     try {
-        static_cast<Arrivals*>(arrivals)->body.append(data, size);
+        static_cast<Arrivals*>(arrivals)->body.append({data, size});
         return size * one;
     } catch (const std::exception&) {
         return 0;

@@ -3,6 +3,7 @@
 #include "pelmora/platform/posix/utf16.h"
 #include "pelmora/platform/systemError.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -49,13 +50,15 @@ std::error_code deleteFile(const WideString& name)
     return lastError();
 }
 
-std::error_code writeWholeFile(const WideString& name, std::string_view bytes)
+std::error_code writeWholeFile(const WideString& name, std::span<const std::string> pieces)
 {
     const std::string path = toUtf8(name);
     File file(std::fopen(path.c_str(), "wb"));
     if (file == nullptr)
         return lastError();
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    const bool written = std::all_of(pieces.begin(), pieces.end(), [&](const std::string& piece) {
+        return std::fwrite(piece.data(), 1, piece.size(), file.get()) == piece.size();
+    });
     // The last bytes leave the buffer only here.
     if (std::fclose(file.release()) == 0 && written)
         return {};

@@ -202,7 +202,7 @@ std::optional<std::string> WinHttpRequest::header(DWORD query) const
     return bytes;
 }
 
-bool WinHttpRequest::readBody(std::string& body)
+bool WinHttpRequest::readBody(Pieces& body)
 {
     // Reads no more than is there: Wine would wait in the call itself for the buffer to fill.
     for (;;) {
@@ -221,7 +221,7 @@ bool WinHttpRequest::readBody(std::string& body)
             return false;
         if (pending_->size() == 0 || pending_->size() > available)
             return false;
-        body.append(pending_->piece.data(), pending_->size());
+        body.append({pending_->piece.data(), pending_->size()});
     }
 }
 

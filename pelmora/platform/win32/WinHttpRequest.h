@@ -35,7 +35,7 @@ public:
     /// The header that a WINHTTP_QUERY_* number names, in bytes as they came.
     std::optional<std::string> header(DWORD query) const;
 
-    bool readBody(std::string& body);
+    bool readBody(Pieces& body);
 
     /// Null when the request could not be made; `send` then fails.
     HINTERNET handle() const noexcept { return request_.get(); }

@@ -54,7 +54,7 @@ bool authenticate(WinHttpRequest& request, const HttpCredentials& credentials)
     if (WinHttpQueryAuthSchemes(request.handle(), &supported, &first, &target) == 0)
         return false;
     // What is left of the body would be read by WinHTTP, which under Wine takes errors for sizes.
-    std::string unused;
+    Pieces unused;
     if (!request.readBody(unused))
         return false;
     if ((supported & WINHTTP_AUTH_SCHEME_DIGEST) != 0)

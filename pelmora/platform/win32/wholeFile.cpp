@@ -80,14 +80,15 @@ std::error_code deleteFile(const WideString& name)
     return lastError();
 }
 
-std::error_code writeWholeFile(const WideString& name, std::string_view bytes)
+std::error_code writeWholeFile(const WideString& name, std::span<const std::string> pieces)
 {
     std::error_code error;
     {
         const File file(name, GENERIC_WRITE, 0, CREATE_ALWAYS);
         if (!file.valid())
             return lastError();
-        error = writeAll(file.get(), bytes);
+        for (auto piece = pieces.begin(); piece != pieces.end() && !error; ++piece)
+            error = writeAll(file.get(), *piece);
     }
     if (error)
         DeleteFileW(name.c_str());
