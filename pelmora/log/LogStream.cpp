@@ -174,10 +174,8 @@ LogStream& LogStream::put(std::string_view bytes)
 
 void LogStream::putToFile(std::string_view bytes)
 {
-    if (std::FILE* const open = file(); open != nullptr) {
-        static_cast<void>(std::fwrite(bytes.data(), 1, bytes.size(), open));
-        static_cast<void>(std::fflush(open));
-    }
+    if (std::FILE* const open = file(); open != nullptr)
+        Platform::append(open, bytes);
     writtenMarker_.store(marker_, std::memory_order_relaxed);
 }
 

@@ -1,5 +1,6 @@
 #include "pelmora/platform/appendingFile.h"
 
+#include <cerrno>
 #include <new>
 
 #include <fcntl.h>
@@ -21,7 +22,22 @@ std::FILE* openForAppending(const std::string& path, bool truncate)
         close(descriptor);
         throw std::bad_alloc();
     }
+    // Nothing that others write to the stream waits while `append` goes past it.
+    static_cast<void>(std::setvbuf(file, nullptr, _IONBF, 0));
     return file;
+}
+
+void append(std::FILE* file, std::string_view bytes) noexcept
+{
+    const int descriptor = fileno(file);
+    while (!bytes.empty()) {
+        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
 }
 
 } // namespace Pelmora::Native::Platform

@@ -34,4 +34,10 @@ std::FILE* openForAppending(const std::string& path, bool truncate)
     return file;
 }
 
+void append(std::FILE* file, std::string_view bytes) noexcept
+{
+    static_cast<void>(std::fwrite(bytes.data(), 1, bytes.size(), file));
+    static_cast<void>(std::fflush(file));
+}
+
 } // namespace Pelmora::Native::Platform
