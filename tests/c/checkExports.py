@@ -10,7 +10,7 @@ import sys
 library, objdump, header, exports, *sources = sys.argv[1:]
 is_windows = library.endswith(".dll")
 SYSTEM = r"(?i)(advapi32|gdi32|kernel32|msvcrt|ole32|oleaut32|user32|winhttp)\.dll" if is_windows \
-    else r"lib(xml2|curl|m|c|gcc_s|asan|ubsan|tsan)\.so\.\d+|ld-linux.*"
+    else r"lib(xml2|m|c|gcc_s|asan|ubsan|tsan)\.so\.\d+|ld-linux.*"
 
 differences = []
 

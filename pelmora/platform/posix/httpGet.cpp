@@ -1,5 +1,7 @@
 #include "pelmora/platform/httpGet.h"
 
+#include "pelmora/platform/posix/curl.h"
+
 #include <cstdlib>
 #include <limits>
 #include <memory>
@@ -7,25 +9,30 @@
 #include <string_view>
 #include <utility>
 
-#include <curl/curl.h>
-
 namespace Pelmora::Native::Platform
 {
 namespace
 {
 
 struct HandleCleanup {
-    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+    void operator()(CURL* handle) const { curl().cleanup(handle); }
 };
 using Handle = std::unique_ptr<CURL, HandleCleanup>;
 
 Handle newHandle()
 {
-    static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
-    Handle handle(initialised == CURLE_OK ? curl_easy_init() : nullptr);
+    Handle handle(curl().init());
     if (handle == nullptr)
         throw std::bad_alloc();
     return handle;
+}
+
+template <class Value>
+void set(CURL* handle, CURLoption option, Value value)
+{
+    // Of what is set here nothing else can fail; without it the download would be another one.
+    if (curl().setopt(handle, option, value) != CURLE_OK)
+        throw std::bad_alloc();
 }
 
 /// What curl hands over. A transfer may have several responses: an interim one, or a demand for
@@ -77,31 +84,31 @@ void setCertificates(CURL* handle)
 {
     // OpenSSL's own settings, which libcurl leaves to its callers.
     if (const char* file = std::getenv("SSL_CERT_FILE")) // NOLINT(concurrency-mt-unsafe)
-        curl_easy_setopt(handle, CURLOPT_CAINFO, file);
+        set(handle, CURLOPT_CAINFO, file);
     if (const char* folder = std::getenv("SSL_CERT_DIR")) // NOLINT(concurrency-mt-unsafe)
-        curl_easy_setopt(handle, CURLOPT_CAPATH, folder);
+        set(handle, CURLOPT_CAPATH, folder);
 }
 
 void setDirectConnection(CURL* handle)
 {
-    curl_easy_setopt(handle, CURLOPT_PROXY, "");
-    curl_easy_setopt(handle, CURLOPT_NOPROXY, "*");
+    set(handle, CURLOPT_PROXY, "");
+    set(handle, CURLOPT_NOPROXY, "*");
 }
 
 void setTimeLimit(CURL* handle, long milliseconds, bool limited)
 {
-    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, limited ? milliseconds : 0L);
+    set(handle, CURLOPT_NOSIGNAL, 1L);
+    set(handle, CURLOPT_TIMEOUT_MS, limited ? milliseconds : 0L);
     // Without it, clean-up would wait for a name that is still being resolved.
-    curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);
+    set(handle, CURLOPT_QUICK_EXIT, 1L);
     // curl's default is five minutes.
-    curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
+    set(handle, CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
 }
 
 std::optional<std::string> header(CURL* handle, const char* name)
 {
     curl_header* found = nullptr;
-    if (curl_easy_header(handle, name, 0, CURLH_HEADER, -1, &found) != CURLHE_OK)
+    if (curl().header(handle, name, 0, CURLH_HEADER, -1, &found) != CURLHE_OK)
         return std::nullopt;
     return found->value;
 }
@@ -116,34 +123,34 @@ std::optional<HttpResponse> httpGet(const HttpAddress& address, const HttpCreden
     const std::string url = (address.secure ? "https://" : "http://") + address.host + ":" +
                             std::to_string(address.port) + address.target;
     Arrivals arrivals;
-    curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
-    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
-    curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
-    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, keepBody);
-    curl_easy_setopt(handle, CURLOPT_WRITEDATA, &arrivals);
-    curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, watchHead);
-    curl_easy_setopt(handle, CURLOPT_HEADERDATA, &arrivals);
-    curl_easy_setopt(handle, CURLOPT_VERBOSE, 1L);
-    curl_easy_setopt(handle, CURLOPT_DEBUGFUNCTION, countBody);
-    curl_easy_setopt(handle, CURLOPT_DEBUGDATA, &arrivals);
+    set(handle, CURLOPT_URL, url.c_str());
+    set(handle, CURLOPT_PROTOCOLS_STR, "http,https");
+    set(handle, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
+    set(handle, CURLOPT_WRITEFUNCTION, keepBody);
+    set(handle, CURLOPT_WRITEDATA, &arrivals);
+    set(handle, CURLOPT_HEADERFUNCTION, watchHead);
+    set(handle, CURLOPT_HEADERDATA, &arrivals);
+    set(handle, CURLOPT_VERBOSE, 1L);
+    set(handle, CURLOPT_DEBUGFUNCTION, countBody);
+    set(handle, CURLOPT_DEBUGDATA, &arrivals);
     setCertificates(handle);
     setDirectConnection(handle);
     if (credentials != nullptr) {
         // More than one scheme makes curl wait for the server's choice.
-        curl_easy_setopt(handle, CURLOPT_HTTPAUTH, CURLAUTH_BASIC | CURLAUTH_DIGEST);
-        curl_easy_setopt(handle, CURLOPT_USERNAME, credentials->user.c_str());
-        curl_easy_setopt(handle, CURLOPT_PASSWORD, credentials->password.c_str());
+        set(handle, CURLOPT_HTTPAUTH, CURLAUTH_BASIC | CURLAUTH_DIGEST);
+        set(handle, CURLOPT_USERNAME, credentials->user.c_str());
+        set(handle, CURLOPT_PASSWORD, credentials->password.c_str());
     }
     const int left = deadline ? millisecondsUntil(*deadline) : std::numeric_limits<int>::max();
     if (left == 0)
         return std::nullopt;
     setTimeLimit(handle, left, deadline.has_value());
 
-    if (curl_easy_perform(handle) != CURLE_OK || arrivals.inHead || arrivals.headCutShort)
+    if (curl().perform(handle) != CURLE_OK || arrivals.inHead || arrivals.headCutShort)
         return std::nullopt;
     HttpResponse response;
     long status = 0;
-    curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
+    curl().getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
     response.status = static_cast<int>(status);
     response.location = header(handle, "Location").value_or("");
     if (!header(handle, "Transfer-Encoding"))
