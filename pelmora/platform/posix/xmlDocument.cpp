@@ -92,13 +92,13 @@ XmlDocument::~XmlDocument() = default;
 
 bool XmlDocument::parseText(WideView text)
 {
-    content_->tree = readXml(toUtf8(text), "UTF-8");
+    content_->tree = readUtf8Xml(toUtf8(text));
     return content_->tree != nullptr;
 }
 
 bool XmlDocument::parseBytes(std::string_view bytes)
 {
-    content_->tree = readXml(bytes, nullptr);
+    content_->tree = readXml(bytes);
     return content_->tree != nullptr;
 }
 

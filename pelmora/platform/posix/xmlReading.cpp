@@ -34,7 +34,7 @@ enum class Mode {
 class Reading
 {
 public:
-    Reading(Mode mode, const char* encoding);
+    Reading(Mode mode, int encodingOption);
 
     Tree tree(std::string_view bytes);
     bool metDocumentType() const { return metDocumentType_; }
@@ -58,7 +58,7 @@ private:
     void stop();
 
     Mode mode_;
-    const char* encoding_;
+    int encodingOption_;
     bool metDocumentType_ = false;
     bool stopped_ = false;
     std::size_t parameterBudget_ = 0;
@@ -69,8 +69,8 @@ private:
     std::unique_ptr<xmlParserCtxt, ContextFree> context_;
 };
 
-Reading::Reading(Mode mode, const char* encoding)
-    : mode_(mode), encoding_(encoding), context_(xmlNewParserCtxt())
+Reading::Reading(Mode mode, int encodingOption)
+    : mode_(mode), encodingOption_(encodingOption), context_(xmlNewParserCtxt())
 {
     if (context_ == nullptr)
         throw std::bad_alloc();
@@ -181,13 +181,11 @@ Tree Reading::tree(std::string_view bytes)
 {
     parameterBudget_ = std::max(toleratedGrowth, maxGrowthFactor * bytes.size());
     int options = XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_NOERROR |
-                  XML_PARSE_NOWARNING;
-    if (encoding_ != nullptr)
-        options |= XML_PARSE_IGNORE_ENC;
+                  XML_PARSE_NOWARNING | encodingOption_;
     if (mode_ == Mode::withoutDocumentType)
         options |= XML_PARSE_HUGE;
     Tree result(xmlCtxtReadMemory(context_.get(), bytes.data(), static_cast<int>(bytes.size()),
-                                  nullptr, encoding_, options));
+                                  nullptr, nullptr, options));
     if (context_->errNo == XML_ERR_NO_MEMORY)
         throw std::bad_alloc();
     // The parser takes a NUL after the root for the end of the input.
@@ -198,17 +196,32 @@ Tree Reading::tree(std::string_view bytes)
     return isSound ? std::move(result) : nullptr;
 }
 
-} // namespace
-
-Tree readXml(std::string_view bytes, const char* encoding)
+Tree read(std::string_view bytes, int encodingOption)
 {
     if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
         return nullptr;
-    Reading lenient(Mode::withoutDocumentType, encoding);
+    Reading lenient(Mode::withoutDocumentType, encodingOption);
     Tree result = lenient.tree(bytes);
     if (!lenient.metDocumentType())
         return result;
-    return Reading(Mode::withLimits, encoding).tree(bytes);
+    return Reading(Mode::withLimits, encodingOption).tree(bytes);
+}
+
+} // namespace
+
+Tree readXml(std::string_view bytes)
+{
+    return read(bytes, 0);
+}
+
+Tree readUtf8Xml(std::string_view utf8)
+{
+    // With a NUL among its first bytes it would be taken for UTF-16. To name the encoding instead
+    // would make the parser convert the whole text.
+    constexpr std::size_t shortestDocument = 4;
+    if (utf8.substr(0, shortestDocument).find('\0') != std::string_view::npos)
+        return nullptr;
+    return read(utf8, XML_PARSE_IGNORE_ENC);
 }
 
 } // namespace Pelmora::Native::Platform

@@ -14,7 +14,10 @@ struct TreeFree {
 using Tree = std::unique_ptr<xmlDoc, TreeFree>;
 
 /// The tree of a well-formed document within the limits that XmlDocument states, otherwise null.
-/// A given encoding overrides the declared one.
-Tree readXml(std::string_view bytes, const char* encoding);
+/// They are in the encoding that they begin with or declare, or else in UTF-8.
+Tree readXml(std::string_view bytes);
+
+/// The same for bytes that are in UTF-8, whatever encoding they declare.
+Tree readUtf8Xml(std::string_view utf8);
 
 } // namespace Pelmora::Native::Platform
