@@ -23,44 +23,44 @@ class ElementList
 public:
     using value_type = UnitElement;
 
-    ElementList() noexcept = default;
+    ElementList() noexcept {} // NOLINT(modernize-use-equals-default): `few_` is not initialised
     ElementList(std::initializer_list<UnitElement> elements)
         : ElementList(std::span(elements.begin(), elements.size()))
     {
     }
     explicit ElementList(std::span<const UnitElement> elements)
     {
-        if (elements.size() > few_.size()) {
+        if (elements.size() > mostFew)
             many_ = std::make_unique<Heap>(elements.begin(), elements.end());
-        } else {
-            std::copy(elements.begin(), elements.end(), few_.begin());
-            fewSize_ = elements.size();
-        }
+        else
+            appendFew(elements.data(), elements.size());
     }
-    ElementList(const ElementList& other)
-        : few_(other.few_),
-          fewSize_(other.fewSize_),
-          many_(other.many_ == nullptr ? nullptr : std::make_unique<Heap>(*other.many_))
+    ElementList(const ElementList& other) : ElementList(std::span(other.begin(), other.end())) {}
+    ElementList(ElementList&& other) noexcept : many_(std::move(other.many_))
     {
+        appendFew(other.few(), other.fewSize_);
     }
-    ElementList(ElementList&& other) noexcept = default;
     ElementList& operator=(const ElementList& other)
     {
         ElementList copy(other);
         return *this = std::move(copy);
     }
-    ElementList& operator=(ElementList&& other) noexcept = default;
+    ElementList& operator=(ElementList&& other) noexcept
+    {
+        many_ = std::move(other.many_);
+        const std::size_t count = other.fewSize_; // of this list, if it is moved to itself
+        fewSize_ = 0;
+        appendFew(other.few(), count);
+        return *this;
+    }
     ~ElementList() = default;
 
     std::size_t size() const noexcept { return many_ == nullptr ? fewSize_ : many_->size(); }
     bool empty() const noexcept { return size() == 0; }
 
-    UnitElement* begin() noexcept { return many_ == nullptr ? few_.data() : many_->data(); }
+    UnitElement* begin() noexcept { return many_ == nullptr ? few() : many_->data(); }
     UnitElement* end() noexcept { return begin() + size(); }
-    const UnitElement* begin() const noexcept
-    {
-        return many_ == nullptr ? few_.data() : many_->data();
-    }
+    const UnitElement* begin() const noexcept { return many_ == nullptr ? few() : many_->data(); }
     const UnitElement* end() const noexcept { return begin() + size(); }
 
     /// Requires: index < size().
@@ -69,14 +69,23 @@ public:
 
     void push_back(const UnitElement& element)
     {
-        if (many_ == nullptr && fewSize_ < few_.size()) {
-            few_[fewSize_++] = element;
+        if (many_ == nullptr && fewSize_ < mostFew) {
+            few()[fewSize_++] = element;
             return;
         }
         const UnitElement kept = element; // may be an element of this list, which moves
         if (many_ == nullptr)
             many_ = std::make_unique<Heap>(begin(), end());
         many_->push_back(kept);
+    }
+
+    /// Requires: `elements` are not of this list.
+    void append(std::span<const UnitElement> elements)
+    {
+        if (many_ == nullptr && elements.size() <= mostFew - fewSize_)
+            return appendFew(elements.data(), elements.size());
+        for (const UnitElement& element : elements)
+            push_back(element);
     }
 
     /// Removes every element from position `count` on. Requires: count <= size().
@@ -95,10 +104,26 @@ public:
 
 private:
     using Heap = std::vector<UnitElement>;
-    static constexpr UnitElement unused{UnitTypeEnum::UNIT_G, UnitPrefix::NONE, 0};
+    static constexpr std::size_t mostFew = 8;
 
-    std::array<UnitElement, 8> few_ = {unused, unused, unused, unused,
-                                       unused, unused, unused, unused};
+    UnitElement* few() noexcept { return reinterpret_cast<UnitElement*>(few_.data()); }
+    const UnitElement* few() const noexcept
+    {
+        return reinterpret_cast<const UnitElement*>(few_.data());
+    }
+
+    /// By the fields, lest the compiler makes a memcpy of it: its wide loads wait for the narrow
+    /// stores of elements that were just written. Requires: they fit.
+    void appendFew(const UnitElement* elements, std::size_t count) noexcept
+    {
+        UnitElement* const place = few() + fewSize_;
+        for (std::size_t i = 0; i < count; ++i)
+            place[i] = {elements[i].unitType, elements[i].prefix, elements[i].exponent};
+        fewSize_ += count;
+    }
+
+    /// Room for elements, which are written as they come.
+    alignas(UnitElement) std::array<std::byte, mostFew * sizeof(UnitElement)> few_;
     std::size_t fewSize_ = 0;
     std::unique_ptr<Heap> many_; ///< all elements, once they no longer fit into `few_`
 };

@@ -46,25 +46,18 @@ ElementList isoElements(Elements elements)
     return result;
 }
 
-/// For each kind, the value of its ISO kind's digit in a number of base 64. An int64 has room for
-/// ten digits and for the sums of an eleventh; more ISO kinds need a wider number.
-constexpr std::array<std::int64_t, kindRows.size()> isoPlaces = [] {
-    std::array<std::int64_t, kindRows.size()> places{};
-    std::int64_t last = 0;
-    for (std::size_t kind = 0; kind < kindRows.size(); ++kind) {
-        const auto isoKind = static_cast<std::size_t>(kindRows[kind].isoKind);
-        if (places[isoKind] == 0) {
-            last = last == 0 ? 1 : last * 64;
-            places[isoKind] = last;
-        }
-        places[kind] = places[isoKind];
-    }
-    return places;
+/// For each kind, a number of its ISO kind; ISO kinds are counted from 0.
+constexpr std::array<std::uint8_t, kindRows.size()> isoNumbers = [] {
+    std::array<std::uint8_t, kindRows.size()> numbers{};
+    for (std::size_t kind = 0; kind < kindRows.size(); ++kind)
+        for (std::size_t i = 0; i < static_cast<std::size_t>(kindRows[kind].isoKind); ++i)
+            numbers[kind] += static_cast<std::size_t>(kindRows[i].isoKind) == i;
+    return numbers;
 }();
 
-std::int64_t isoPlace(const UnitElement& element) noexcept
+std::uint8_t isoNumber(const UnitElement& element) noexcept
 {
-    return isoPlaces[kindIndex(element.unitType)];
+    return isoNumbers[kindIndex(element.unitType)];
 }
 
 /// Whether the ISO forms of the elements are equal in pairs, as those of mg/min and g/hr are.
@@ -72,32 +65,27 @@ bool isoFormsAreEqualInOrder(Elements a, Elements b) noexcept
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](const UnitElement& x, const UnitElement& y) {
-                          return x.exponent == y.exponent && isoPlace(x) == isoPlace(y);
+                          return x.exponent == y.exponent && isoNumber(x) == isoNumber(y);
                       });
 }
 
-/// Packs the ISO form into one integer, a digit of base 64 for each ISO kind. Distinct exponents of
-/// at most 3 sum to 6 at most, so digits never carry. Nothing for larger exponents and for longer
-/// units than `ElementList` holds in place.
+/// Packs the ISO form into one integer, a digit of base 16 for each ISO kind. Distinct exponents of
+/// at most 3 sum to 6 at most, so digits never carry. Nothing for larger exponents.
 std::optional<std::int64_t> isoSignature(Elements elements) noexcept
 {
-    constexpr std::size_t mostElements = 8;
     constexpr std::int32_t largestExponent = 3;
-    if (elements.size() > mostElements)
-        return std::nullopt;
-    std::array<std::int64_t, mostElements> parts;
+    constexpr int digitBits = 4;
+    static_assert(*std::max_element(isoNumbers.begin(), isoNumbers.end()) < 64 / digitBits);
     std::int64_t signature = 0;
-    std::size_t count = 0;
+    std::array<std::uint8_t, isoNumbers.size()> seen{}; // a bit for each exponent, by ISO kind
     for (const UnitElement& element : elements) {
         if (element.exponent < -largestExponent || element.exponent > largestExponent)
             return std::nullopt;
-        const std::int64_t part = element.exponent * isoPlace(element);
-        // Equal ISO elements count once.
-        bool isNew = true;
-        for (std::size_t i = 0; i < count; ++i)
-            isNew = isNew && parts[i] != part;
-        parts[count++] = part;
-        signature += isNew ? part : 0;
+        const std::uint8_t number = isoNumber(element);
+        const auto bit = static_cast<std::uint8_t>(1 << (element.exponent + largestExponent));
+        if ((seen[number] & bit) == 0) // Equal ISO elements count once.
+            signature += static_cast<std::int64_t>(element.exponent) << (digitBits * number);
+        seen[number] |= bit;
     }
     return signature;
 }
@@ -120,13 +108,10 @@ bool areCompatible(Elements a, Elements b)
     return isoElements(a) == isoElements(b);
 }
 
-Unit::Unit(const UnitElement& element) : elements{element} {}
-
 Unit Unit::mul(const Unit& other) const
 {
     Unit product = *this;
-    for (const UnitElement& element : other.elements)
-        product.elements.push_back(element);
+    product.elements.append(other.elements);
     return product;
 }
 
@@ -138,16 +123,16 @@ Unit Unit::inverted() const
     return result;
 }
 
-ScaledUnit Unit::getReduced() const
+void reduce(ElementList& elements, double& factor)
 {
-    ScaledUnit result = {1, {}};
+    factor = 1;
     if (elements.empty())
-        return result;
-    ElementList copy = elements;
-    UnitElement* const last = copy.end() - 1;
+        return;
+    UnitElement* const last = elements.end() - 1;
+    UnitElement* kept = elements.begin(); // overtakes nobody, since at most one is kept of each
     constexpr UnitElement consumed(UnitTypeEnum::UNIT_NUMBER_OF, UnitPrefix::NONE, 0);
 
-    for (UnitElement* position = copy.begin(); position != last; ++position) {
+    for (UnitElement* position = elements.begin(); position != last; ++position) {
         const UnitElement element = *position;
         if (element.exponent == 0)
             continue;
@@ -157,21 +142,27 @@ ScaledUnit Unit::getReduced() const
             if (!haveSameDimension(element.unitType, later->unitType))
                 continue;
             merged = true;
-            result.factor *= Native::isoFactor(later->prefix, later->unitType, later->exponent);
+            factor *= isoFactor(later->prefix, later->unitType, later->exponent);
             total = wrappedSum(total, later->exponent);
             *later = consumed;
         }
         if (!merged) {
-            result.unit.elements.push_back(element);
+            *kept++ = element;
             continue;
         }
-        result.factor *= Native::isoFactor(element.prefix, element.unitType, element.exponent);
+        factor *= isoFactor(element.prefix, element.unitType, element.exponent);
         if (total != 0)
-            result.unit.elements.push_back(
-                {kindRow(element.unitType).isoKind, UnitPrefix::NONE, total});
+            *kept++ = {kindRow(element.unitType).isoKind, UnitPrefix::NONE, total};
     }
     if (last->exponent != 0)
-        result.unit.elements.push_back(*last);
+        *kept++ = *last;
+    elements.truncate(static_cast<std::size_t>(kept - elements.begin()));
+}
+
+ScaledUnit Unit::getReduced() const
+{
+    ScaledUnit result(1, *this);
+    reduce(result.unit.elements, result.factor);
     return result;
 }
 

@@ -20,7 +20,10 @@ struct PELMORA_API Unit {
     ElementList elements;
 
     Unit() noexcept = default;
-    Unit(const UnitElement& element); // NOLINT(google-explicit-constructor): an element is a unit
+    Unit(const UnitElement& element) // NOLINT(google-explicit-constructor): an element is a unit
+        : elements{element}
+    {
+    }
 
     /// A copy of the list.
     ElementList getElementList() const { return elements; }

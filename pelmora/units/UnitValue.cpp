@@ -10,11 +10,14 @@ namespace Pelmora::Native
 
 UnitValue UnitValue::mul(const UnitValue& other) const
 {
-    if (!other.unit.isValid())
-        return *this;
-    if (!unit.isValid())
-        return other;
-    return {value * other.value, unit.mul(other.unit)};
+    const bool isNeutral = !unit.isValid();
+    const bool otherIsNeutral = !other.unit.isValid();
+    UnitValue product = isNeutral && !otherIsNeutral ? other : *this;
+    if (!isNeutral && !otherIsNeutral) {
+        product.value *= other.value;
+        product.unit.elements.append(other.unit.elements);
+    }
+    return product;
 }
 
 UnitValue UnitValue::inverted() const
@@ -33,8 +36,11 @@ UnitValue UnitValue::div(const UnitValue& other) const
 
 UnitValue UnitValue::getReduced() const
 {
-    const ScaledUnit reduced = unit.getReduced();
-    return {value * reduced.factor, reduced.unit};
+    UnitValue result = *this;
+    double factor = 1;
+    reduce(result.unit.elements, factor);
+    result.value *= factor;
+    return result;
 }
 
 double UnitValue::getConvertedValue(const Unit& target) const noexcept

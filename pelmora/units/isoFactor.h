@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pelmora/units/UnitElement.h"
+#include "pelmora/units/ElementList.h"
 #include "pelmora/units/unitTables.h"
 
 #include <array>
@@ -61,6 +61,9 @@ inline double convertedValue(double value, Elements from, Elements to) noexcept
 
 /// See Unit::compatibleWith.
 bool areCompatible(Elements a, Elements b);
+
+/// See Unit::getReduced; changes the unit in place.
+void reduce(ElementList& unit, double& factor);
 
 /// See UnitValue::toNormalized; changes value and unit in place.
 void normalize(double& value, std::span<UnitElement> unit, int maxMagnitude) noexcept;
