@@ -89,7 +89,7 @@ int decimalMagnitude(double x) noexcept
         double least;
         int magnitude;
     };
-    constexpr std::array<Threshold, 22> thresholds = {{
+    static constexpr std::array<Threshold, 22> thresholds = {{
         {1e10, 11}, {1e9, 10},  {1e8, 9},     {1e7, 8},     {1e6, 7},   {1e5, 6},
         {1e4, 5},   {1000, 4},  {100, 3},     {10, 2},      {1, 1},     {0.1, -1},
         {0.01, -2}, {1e-3, -3}, {1e-4, -4},   {1e-5, -5},   {1e-6, -6}, {1e-7, -7},

@@ -1,6 +1,7 @@
 #include "pelmora/units/unitText.h"
 
 #include "pelmora/base/detail/utf8.h"
+#include "pelmora/units/shortNumber.h"
 #include "pelmora/units/textBuilder.h"
 #include "pelmora/units/unitTables.h"
 
@@ -42,16 +43,36 @@ std::string streamedNumber(double value, NumberFormat format)
     return stream.str();
 }
 
-void appendClassic(NarrowBuilder& text, double value, NumberFormat format)
+void appendLocalised(NarrowBuilder& text, std::string_view number)
 {
-    const auto notation = format.fixed ? std::chars_format::fixed : std::chars_format::general;
+    text.append(number);
+}
+
+void appendLocalised(WideBuilder& text, std::string_view number)
+{
+    if (asciiPrefix(number) == number.size())
+        text.append(number);
+    else // The global locale brought in characters of the ANSI code page.
+        text.append(WideView(GString(number)));
+}
+
+template <class Char>
+void appendClassic(TextBuilder<Char>& text, double value, NumberFormat format)
+{
     std::array<char, longestNumber> number;
+    const auto writeShort = format.fixed ? writeShortFixed : writeShortGeneral;
+    if (const char* const end = writeShort(number.data(), value, format.precision)) {
+        text.append(std::string_view(number.data(), end));
+        return;
+    }
+    const auto notation = format.fixed ? std::chars_format::fixed : std::chars_format::general;
     const auto written = std::to_chars(number.data(), number.data() + number.size(), value,
                                        notation, format.precision);
     text.append(std::string_view(number.data(), written.ptr));
 }
 
-void appendNumber(NarrowBuilder& text, double value, NumberFormat format)
+template <class Char>
+void appendNumber(TextBuilder<Char>& text, double value, NumberFormat format)
 {
     // libstdc++ formats a streamed number in a stack buffer as long as the precision; a huge
     // precision would overflow the stack.
@@ -60,7 +81,7 @@ void appendNumber(NarrowBuilder& text, double value, NumberFormat format)
     if (std::locale() == std::locale::classic())
         appendClassic(text, value, format);
     else
-        text.append(std::string_view(streamedNumber(value, format)));
+        appendLocalised(text, streamedNumber(value, format));
     if (format.fixed && std::isfinite(value))
         text.append(static_cast<std::size_t>(zeros), '0');
 }
@@ -81,14 +102,9 @@ void appendPower(WideBuilder& text, std::int64_t exponent)
     }
 }
 
-/// The number and, if the unit has a text, a blank and the unit.
-void appendWithUnit(WideBuilder& text, NarrowBuilder& builtNumber, Elements unit)
+/// A blank and the unit, if it has a text.
+void appendUnitBehind(WideBuilder& text, Elements unit)
 {
-    const std::string_view number = builtNumber.view();
-    if (asciiPrefix(number) == number.size())
-        text.append(number);
-    else // The global locale brought in characters of the ANSI code page.
-        text.append(WideView(GString(number)));
     text.append(u' ');
     const std::size_t unitStart = text.size();
     appendUnit(text, unit);
@@ -125,9 +141,8 @@ void appendUnit(WideBuilder& text, Elements unit)
 
 void appendValue(WideBuilder& text, double value, Elements unit, int precision)
 {
-    NarrowBuilder number;
-    appendNumber(number, value, precision >= 0 ? NumberFormat{true, precision} : streamDefault);
-    appendWithUnit(text, number, unit);
+    appendNumber(text, value, precision >= 0 ? NumberFormat{true, precision} : streamDefault);
+    appendUnitBehind(text, unit);
 }
 
 void appendNormalized(WideBuilder& text, double value, ElementList unit, int digits)
@@ -135,7 +150,8 @@ void appendNormalized(WideBuilder& text, double value, ElementList unit, int dig
     normalize(value, unit, digits);
     NarrowBuilder number;
     appendSignificant(number, value, digits);
-    appendWithUnit(text, number, unit);
+    appendLocalised(text, number.view());
+    appendUnitBehind(text, unit);
 }
 
 void appendSignificant(NarrowBuilder& text, double value, int digits)
