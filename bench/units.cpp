@@ -95,6 +95,19 @@ const Measured nativeConvert("objects: convertTo/C++", [v = value, t = target] {
     return converted.getReduced();
 });
 
+/// What so many allocations of small shared objects cost, which the public objects are made of.
+template <std::size_t count>
+auto allocateShared()
+{
+    std::array<std::shared_ptr<Pelmora::UnitElement>, count> all;
+    for (auto& one : all)
+        one = std::make_shared<Pelmora::UnitElement>();
+    return all;
+}
+
+const Measured fourAllocations("objects: convertTo/4 allocations",
+                               [] { return allocateShared<4>(); });
+
 const Measured objectsText("objects: toNormalizedString/ours",
                            [v = Pelmora::UnitValue(small)] { return v.toNormalizedString(3); });
 const Measured nativeText("objects: toNormalizedString/C++",
@@ -106,6 +119,8 @@ const Measured objectsBuild("objects: build a unit/ours", [p = Parts()] {
     unit.addElement(std::make_shared<Pelmora::UnitElement>(p.perMinute));
     return unit;
 });
+const Measured nineAllocations("objects: build a unit/9 allocations",
+                               [] { return allocateShared<9>(); });
 const Measured nativeBuild("objects: build a unit/C++", [p = Parts()] {
     return Unit(p.milligram).mul(p.perKilogram).mul(p.perMinute);
 });

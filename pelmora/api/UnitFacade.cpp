@@ -65,9 +65,14 @@ Unit::Unit(const std::shared_ptr<Unit>& rhs) : Unit(*requireReference(rhs, "rhs"
 
 Unit::Unit(const Native::Unit& u) : elements(std::make_shared<Elements>())
 {
+    // One block for all of them, which lives as long as anybody refers to one.
+    const auto block = std::make_shared<UnitElement[]>(u.elements.size());
     elements->reserve(u.elements.size());
-    for (const Native::UnitElement& element : u.elements)
-        elements->push_back(std::make_shared<UnitElement>(element));
+    UnitElement* place = block.get();
+    for (const Native::UnitElement& element : u.elements) {
+        *place = UnitElement(element);
+        elements->emplace_back(block, place++);
+    }
 }
 
 Native::Unit Unit::asNative() const
@@ -83,7 +88,10 @@ Native::Unit Unit::asNative() const
 void Unit::addElement(const std::shared_ptr<UnitElement>& ue)
 {
     requireReference(ue, "ue");
-    auto longer = std::make_shared<Elements>(elementsOf(*this));
+    const Elements& all = elementsOf(*this);
+    auto longer = std::make_shared<Elements>();
+    longer->reserve(all.size() + 1);
+    longer->assign(all.begin(), all.end());
     longer->push_back(ue);
     elements = longer;
 }
@@ -190,9 +198,8 @@ UnitValue UnitValue::div(const std::shared_ptr<UnitValue>& rhs) const
 
 UnitValue UnitValue::convertTo(const Unit& unit_) const
 {
-    Native::UnitValue converted = asNative();
-    converted.convertTo(unit_.asNative());
-    return UnitValue(converted.getReduced());
+    const Native::Unit target = unit_.asNative();
+    return UnitValue(Native::UnitValue(asNative().getConvertedValue(target), target).getReduced());
 }
 
 UnitValue UnitValue::convertTo(const std::shared_ptr<Unit>& unit_) const
