@@ -81,4 +81,17 @@ const Measured
 const Measured normalizedTextNative("C: normalised text/C++",
                                     [o = Operands()] { return o.value.toNormalizedString(3); });
 
+// What the .NET classes call for the works of dotnet.cs.
+const Measured dotnetConvert(".NET: convertTo/C", [o = Operands()] {
+    std::array<pelmora_element, 6> unit;
+    double number = 0;
+    size_t count = 0;
+    pelmora_value_convert_reduced(2.5, o.dose.data(), 3, o.target.data(), 3, &number, unit.data(),
+                                  unit.size(), &count);
+    return unit;
+});
+const Measured dotnetText(".NET: toNormalizedString/C", text([](const Operands& o, auto... buffer) {
+                              pelmora_value_normalized_text(0.0525, o.dose.data(), 3, 3, buffer...);
+                          }));
+
 } // namespace
