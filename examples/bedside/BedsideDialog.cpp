@@ -28,7 +28,7 @@ using Pelmora::Native::Font;
 using Translation::tr;
 namespace Native = Pelmora::Native;
 
-constexpr double patientKg = 70;
+constexpr double usualPatientKg = 70;
 constexpr INT_PTR closed = IDOK;
 
 /// Gives a control a bold font of another size.
@@ -117,8 +117,8 @@ void BedsideDialog::begin()
     const LOGFONTW font = fontOf(window());
     emphasise(control(ID_PATIENT_NAME), nameFont_, font.lfFaceName, MulDiv(font.lfHeight, 9, 8));
     emphasise(control(ID_RATE), rateFont_, font.lfFaceName, -heightOf(control(ID_RATE)) / 2);
-    showDialogTexts(window(), patientKg);
-    fillOrderControls(window(), patientKg);
+    showDialogTexts(window(), usualPatientKg);
+    fillOrderControls(window(), usualPatientKg);
     for (const Panel& panel : panels())
         addChoice(window(), ID_PANEL, tr(panel.name), static_cast<int>(panel.panel));
     choose(window(), ID_PANEL,

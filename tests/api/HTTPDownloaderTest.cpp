@@ -67,6 +67,7 @@ TEST(HTTPDownloader, BodiesAndFailures)
         {"/raw?no HTTP at all\r\n\r\n#", failed},
         {"/status/201", "not this"},
         {"/status/404", failed},
+        {"/to/404?/text", failed},
         {"/status/500", failed},
         {"/status/302", failed},
         {"/status/302?", failed},

@@ -54,6 +54,7 @@ TEST(CodePages, WhatHasNoCounterpartIsReplaced)
         {932, "\x93\x8C\x81", u"\u6771\u30FB"},
         {932, "\x81\xFF!", u"\u30FB!"},
         {949, "\xA2\xE8z", u"?z"},
+        {1253, "\x81\x9F", u"\u0081\u009F"},
         {936, "\xB1\xB1\x81 ", u"\u5317?"},
         {99999, "\xE9", u""},
     };
