@@ -28,7 +28,7 @@ private:
 
     HWND control(int number) const { return GetDlgItem(window(), number); }
     void begin();
-    void command(int control, int notification);
+    void command(int number, int notification);
     void tick();
     INT_PTR draw(const DRAWITEMSTRUCT& item) const;
     INT_PTR colour(HDC dc, HWND shown) const;

@@ -67,7 +67,7 @@ void exchange(HWND dialog, int shown, int hidden)
     const HWND before = GetDlgItem(dialog, shown);
     const HWND after = GetDlgItem(dialog, hidden);
     // Where a hidden control's focus goes is the next one in tab order.
-    SetWindowPos(after, before, 0, 0, 0, 0, orderOnly);
+    SetWindowPos(after, before, 0, 0, 0, 0, orderOnly); // NOLINT: the one that moves comes first
     Pelmora::Native::showControl(after, true);
     Pelmora::Native::showControl(before, false);
 }

@@ -59,6 +59,7 @@ Order parseOrder(std::string_view line)
 {
     const std::vector<std::string> texts = Pelmora::Native::split(line, '|', false);
     std::vector<std::string_view> field;
+    field.reserve(texts.size());
     for (const std::string& text : texts)
         field.push_back(trimmed(text));
     if (field.size() != 5)

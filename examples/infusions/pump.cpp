@@ -47,7 +47,7 @@ UnitValue pumpSetting(const UnitValue& exact)
     const UnitValue slowest = rate(0.1);
     const UnitValue fastest = rate(1200);
     const double steps = std::pow(10.0, decimals(exact.value));
-    const UnitValue setting = rate(std::nearbyint(exact.value * steps) / steps);
+    UnitValue setting = rate(std::nearbyint(exact.value * steps) / steps);
     if (setting.value >= slowest.value && setting.value <= fastest.value)
         return setting;
     throw OrderError(GString::format(tr("a pump cannot run at %s, only at %s to %s"),

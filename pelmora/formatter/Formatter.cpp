@@ -32,7 +32,7 @@ constexpr std::array<Entity, 5> entities = {{
 
 /// The number of the entity for each of the first 64 characters, which include all five; 5 for
 /// none.
-constexpr std::array<std::uint8_t, 64> entityNumbers = [] {
+constexpr std::array<std::uint8_t, 64> entityNumbers = []() {
     std::array<std::uint8_t, 64> numbers{};
     numbers.fill(entities.size());
     for (std::size_t i = 0; i < entities.size(); ++i)

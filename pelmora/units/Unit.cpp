@@ -47,7 +47,7 @@ ElementList isoElements(Elements elements)
 }
 
 /// For each kind, a number of its ISO kind; ISO kinds are counted from 0.
-constexpr std::array<std::uint8_t, kindRows.size()> isoNumbers = [] {
+constexpr std::array<std::uint8_t, kindRows.size()> isoNumbers = []() {
     std::array<std::uint8_t, kindRows.size()> numbers{};
     for (std::size_t kind = 0; kind < kindRows.size(); ++kind)
         for (std::size_t i = 0; i < static_cast<std::size_t>(kindRows[kind].isoKind); ++i)

@@ -25,7 +25,7 @@ struct Search {
 
 BOOL CALLBACK keepDialog(HWND window, LPARAM parameter)
 {
-    auto& search = *reinterpret_cast<Search*>(parameter);
+    auto& search = *reinterpret_cast<Search*>(parameter); // NOLINT: a pointer, as it was handed in
     std::array<wchar_t, 16> name = {};
     GetClassNameW(window, name.data(), static_cast<int>(name.size()));
     DWORD process = 0;
@@ -153,7 +153,7 @@ DWORD BedsideProgram::close()
     return status;
 }
 
-DWORD_PTR BedsideProgram::send(HWND receiver, UINT message, WPARAM wParam, LPARAM lParam) const
+DWORD_PTR BedsideProgram::send(HWND receiver, UINT message, WPARAM wParam, LPARAM lParam)
 {
     DWORD_PTR result = 0;
     if (SendMessageTimeoutW(receiver, message, wParam, lParam, SMTO_ABORTIFHUNG, patienceMs,

@@ -50,7 +50,7 @@ public:
     DWORD close();
 
 private:
-    DWORD_PTR send(HWND receiver, UINT message, WPARAM wParam, LPARAM lParam) const;
+    static DWORD_PTR send(HWND receiver, UINT message, WPARAM wParam, LPARAM lParam);
 
     PROCESS_INFORMATION process_ = {};
     HWND window_ = nullptr;
