@@ -46,6 +46,7 @@ if(WIN32)
   # The functions behind both, from the compiler's archive: another DLL beside the library is none
   # that its users should have to bring.
   set(pelmora_hardening_libraries -l:libssp.a)
+  target_link_libraries(pelmora_hardening INTERFACE ${pelmora_hardening_libraries})
   target_link_options(pelmora_hardening INTERFACE
     LINKER:--dynamicbase,--nxcompat
     $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:LINKER:--high-entropy-va>)

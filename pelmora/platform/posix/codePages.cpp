@@ -206,7 +206,7 @@ Replacement replacementFor(unsigned int page, const unsigned char* text)
 std::optional<char> undefinedByteOf(unsigned int page, wchar_t character)
 {
     for (const UndefinedByte& row : undefinedBytes)
-        if (row.page == page && row.unit == character)
+        if (row.page == page && row.unit == character) // NOLINT: neither is a char
             return static_cast<char>(row.byte);
     return std::nullopt;
 }

@@ -19,7 +19,8 @@ public:
     {
         // The messages of other locales are in other encodings; English serves there.
         static const locale_t english = newlocale(LC_ALL_MASK, "C", locale_t());
-        const bool isUtf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+        // Safe unless another thread changes the locale, as every use of it is.
+        const bool isUtf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0; // NOLINT
         return isUtf8 ? std::system_category().message(number) : strerror_l(number, english);
     }
     std::error_condition default_error_condition(int number) const noexcept override

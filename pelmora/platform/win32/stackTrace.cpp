@@ -21,8 +21,8 @@ std::string describe(void* address)
         GetModuleFileNameA(module, name.data(), static_cast<DWORD>(name.size()));
     const auto offset = static_cast<char*>(address) - reinterpret_cast<char*>(module);
     std::array<char, MAX_PATH + 24> line = {};
-    std::snprintf(line.data(), line.size(), "%s+0x%llx\n", name.data(),
-                  static_cast<unsigned long long>(offset));
+    static_cast<void>(std::snprintf(line.data(), line.size(), "%s+0x%llx\n", name.data(),
+                                    static_cast<unsigned long long>(offset)));
     return line.data();
 }
 
