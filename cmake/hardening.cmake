@@ -28,7 +28,7 @@ target_compile_definitions(pelmora_hardening INTERFACE _GLIBCXX_ASSERTIONS)
 # It needs an optimising compiler; older ones and older C libraries have level 2 alone.
 if(flags MATCHES "-O[123s]" AND NOT flags MATCHES "-O0")
   cmake_push_check_state()
-  set(CMAKE_REQUIRED_FLAGS "-Werror -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3")
+  set(CMAKE_REQUIRED_FLAGS "-O2 -Werror -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3")
   check_cxx_source_compiles("
     #include <cstdlib>
     #if __USE_FORTIFY_LEVEL + 0 < 3 && __MINGW_FORTIFY_LEVEL + 0 < 3
