@@ -20,7 +20,7 @@ TEST(Namespaces, AnElementTakenOutKeepsItsPrefixes)
 {
     ManagedXMLParser parser;
     ASSERT_TRUE(parser.parseFromString(
-        u"<Action xmlns:p='urn:n'><Event id='x' p:b='c'><p:d/></Event></Action>"));
+        u"<Action xmlns:p='urn:n?a&amp;b'><Event id='x' p:b='c'><p:d/></Event></Action>"));
     EXPECT_TRUE(parser.parseFromString(parser.getElementWithAttributeValue(u"id", u"x")));
     EXPECT_EQ(parser.getAttribute(u"p:b"), u"c");
 }

@@ -3,6 +3,9 @@
 #include "pelmora/platform/posix/utf16.h"
 #include "pelmora/platform/posix/xmlReading.h"
 
+#include <utility>
+
+#include <libxml/entities.h>
 #include <libxml/xmlsave.h>
 #include <libxml/xpath.h>
 
@@ -54,6 +57,24 @@ xmlNode* following(xmlNode* node, const xmlNode* top)
     return node == top ? nullptr : node->next;
 }
 
+/// libxml2 writes the names of namespaces as they are. Of the characters that need escaping, only
+/// the ampersand may stand in them.
+void escapeNamespaces(xmlNode* top)
+{
+    for (xmlNode* node = top; node != nullptr; node = following(node, top)) {
+        if (node->type != XML_ELEMENT_NODE)
+            continue;
+        for (xmlNs* space = node->nsDef; space != nullptr; space = space->next) {
+            if (view(space->href).find('&') == std::string_view::npos)
+                continue;
+            xmlChar* const escaped = xmlEncodeSpecialChars(node->doc, space->href);
+            if (escaped == nullptr)
+                throw std::bad_alloc();
+            xmlFree(const_cast<xmlChar*>(std::exchange(space->href, escaped)));
+        }
+    }
+}
+
 /// The node as XML, with declarations of the namespaces it inherits.
 WideString outerXml(xmlNode* node)
 {
@@ -67,6 +88,7 @@ WideString outerXml(xmlNode* node)
         if (node == nullptr)
             throw std::bad_alloc();
         xmlDocSetRootElement(ownTree.get(), node);
+        escapeNamespaces(node);
     }
     const std::unique_ptr<xmlBuffer, BufferFree> buffer(xmlBufferCreate());
     xmlSaveCtxt* save = xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL);
