@@ -108,7 +108,10 @@ void setTimeLimit(CURL* handle, long milliseconds, bool limited)
 std::optional<std::string> header(CURL* handle, const char* name)
 {
     curl_header* found = nullptr;
-    if (curl().header(handle, name, 0, CURLH_HEADER, -1, &found) != CURLHE_OK)
+    const CURLHcode result = curl().header(handle, name, 0, CURLH_HEADER, -1, &found);
+    if (result == CURLHE_OUT_OF_MEMORY)
+        throw std::bad_alloc();
+    if (result != CURLHE_OK)
         return std::nullopt;
     return found->value;
 }

@@ -1,5 +1,6 @@
 #include "pelmora/platform/xmlDocument.h"
 
+#include "pelmora/platform/posix/XmlErrors.h"
 #include "pelmora/platform/posix/utf16.h"
 #include "pelmora/platform/posix/xmlReading.h"
 
@@ -22,6 +23,9 @@ struct ResultFree {
 };
 struct BufferFree {
     void operator()(xmlBuffer* buffer) const { xmlBufferFree(buffer); }
+};
+struct SaveClose {
+    void operator()(xmlSaveCtxt* save) const { xmlSaveClose(save); }
 };
 struct TextFree {
     void operator()(xmlChar* text) const { xmlFree(text); }
@@ -78,24 +82,24 @@ void escapeNamespaces(xmlNode* top)
 /// The node as XML, with declarations of the namespaces it inherits.
 WideString outerXml(xmlNode* node)
 {
+    const XmlErrors errors;
     const Tree ownTree(xmlNewDoc(nullptr));
-    if (ownTree == nullptr)
-        throw std::bad_alloc();
+    errors.check();
     ownTree->encoding =
         xmlStrdup(chars("UTF-8")); // or other characters would be written as numbers
     if (node->type == XML_ELEMENT_NODE) {
         node = xmlDocCopyNode(node, ownTree.get(), 1);
-        if (node == nullptr)
-            throw std::bad_alloc();
         xmlDocSetRootElement(ownTree.get(), node);
+        errors.check();
         escapeNamespaces(node);
     }
     const std::unique_ptr<xmlBuffer, BufferFree> buffer(xmlBufferCreate());
-    xmlSaveCtxt* save = xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL);
-    if (save == nullptr)
-        throw std::bad_alloc();
-    xmlSaveTree(save, node);
-    xmlSaveClose(save);
+    std::unique_ptr<xmlSaveCtxt, SaveClose> save(
+        xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL));
+    errors.check();
+    xmlSaveTree(save.get(), node);
+    save.reset(); // writes the rest
+    errors.check();
     std::string_view xml = view(xmlBufferContent(buffer.get()));
     if (node->type == XML_ATTRIBUTE_NODE && xml.starts_with(' '))
         xml.remove_prefix(1);
@@ -136,8 +140,10 @@ WideString XmlDocument::rootAttribute(const WideString& name) const
     for (xmlAttr* attribute = root->properties; attribute != nullptr; attribute = attribute->next) {
         if (qualifiedName(attribute->ns, attribute->name) != wanted)
             continue;
+        const XmlErrors errors;
         const std::unique_ptr<xmlChar, TextFree> value(
             xmlNodeListGetString(content_->tree.get(), attribute->children, 1));
+        errors.check();
         return toUtf16(view(value.get()));
     }
     // Declarations of namespaces are attributes too, which libxml2 keeps apart.
@@ -153,13 +159,15 @@ WideString XmlDocument::firstSelected(const WideString& expression) const
 {
     if (!hasRoot() || expression.find(WideChar(0)) != WideString::npos)
         return {};
+    XmlErrors errors;
     const std::unique_ptr<xmlXPathContext, ContextFree> context(
         xmlXPathNewContext(content_->tree.get()));
-    if (context == nullptr)
-        throw std::bad_alloc();
-    context->error = [](void*, xmlError*) {}; // otherwise it is written to standard error
+    errors.check();
+    context->userData = &errors;
+    context->error = XmlErrors::note;
     const std::unique_ptr<xmlXPathObject, ResultFree> result(
         xmlXPathEval(chars(toUtf8(expression)), context.get()));
+    errors.check();
     if (result == nullptr || result->type != XPATH_NODESET ||
         xmlXPathNodeSetIsEmpty(result->nodesetval))
         return {};

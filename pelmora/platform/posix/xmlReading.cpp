@@ -1,5 +1,7 @@
 #include "pelmora/platform/posix/xmlReading.h"
 
+#include "pelmora/platform/posix/XmlErrors.h"
+
 #include <algorithm>
 #include <limits>
 #include <new>
@@ -38,6 +40,7 @@ public:
 
     Tree tree(std::string_view bytes);
     bool metDocumentType() const { return metDocumentType_; }
+    bool knowsEncoding() const { return context_->errNo != XML_ERR_UNSUPPORTED_ENCODING; }
 
 private:
     struct ContextFree {
@@ -57,10 +60,12 @@ private:
 
     void stop();
 
+    XmlErrors errors_; // lives longest
     Mode mode_;
     int encodingOption_;
     bool metDocumentType_ = false;
     bool stopped_ = false;
+    bool lostEntity_ = false;
     std::size_t parameterBudget_ = 0;
     int parameterReferences_ = 0;
     std::size_t defaultedBytes_ = 0;
@@ -85,8 +90,6 @@ Reading::Reading(Mode mode, int encodingOption)
     context_->sax->entityDecl = declareEntity;
     context_->sax->getEntity = entityOf;
     context_->sax->getParameterEntity = parameterEntityOf;
-    // Otherwise declarations that are made twice are reported on standard error.
-    context_->sax->serror = [](void*, xmlError*) {};
     // Asked for the external part of a document type, too.
     context_->sax->resolveEntity = [](void*, const xmlChar*, const xmlChar*) {
         return static_cast<xmlParserInput*>(nullptr);
@@ -142,6 +145,12 @@ void Reading::declareEntity(void* context, const xmlChar* name, int type, const 
                           of(context).nothing_);
     else
         xmlSAX2EntityDecl(context, name, type, publicId, systemId, content);
+    // libxml2 does not say that it had no memory for it.
+    const bool isParameter =
+        type == XML_EXTERNAL_PARAMETER_ENTITY || type == XML_INTERNAL_PARAMETER_ENTITY;
+    const xmlEntity* const known =
+        isParameter ? xmlSAX2GetParameterEntity(context, name) : xmlSAX2GetEntity(context, name);
+    of(context).lostEntity_ = of(context).lostEntity_ || known == nullptr;
 }
 
 xmlEntity* Reading::entityOf(void* context, const xmlChar* name)
@@ -186,7 +195,8 @@ Tree Reading::tree(std::string_view bytes)
         options |= XML_PARSE_HUGE;
     Tree result(xmlCtxtReadMemory(context_.get(), bytes.data(), static_cast<int>(bytes.size()),
                                   nullptr, nullptr, options));
-    if (context_->errNo == XML_ERR_NO_MEMORY)
+    errors_.check();
+    if (lostEntity_)
         throw std::bad_alloc();
     // The parser takes a NUL after the root for the end of the input.
     const xmlParserInput* input = context_->input;
@@ -200,11 +210,23 @@ Tree read(std::string_view bytes, int encodingOption)
 {
     if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
         return nullptr;
-    Reading lenient(Mode::withoutDocumentType, encodingOption);
-    Tree result = lenient.tree(bytes);
-    if (!lenient.metDocumentType())
+    // An encoding seems to be unknown, too, when there is no memory for its converter.
+    Tree result;
+    bool knowsEncoding = false;
+    bool needsLimits = false;
+    for (int tries = 0; tries < 2 && !knowsEncoding; ++tries) {
+        Reading reading(Mode::withoutDocumentType, encodingOption);
+        result = reading.tree(bytes);
+        knowsEncoding = reading.knowsEncoding();
+        needsLimits = reading.metDocumentType();
+    }
+    if (!needsLimits)
         return result;
-    return Reading(Mode::withLimits, encodingOption).tree(bytes);
+    Reading reading(Mode::withLimits, encodingOption);
+    result = reading.tree(bytes);
+    if (!reading.knowsEncoding())
+        throw std::bad_alloc();
+    return result;
 }
 
 } // namespace

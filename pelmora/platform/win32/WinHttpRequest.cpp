@@ -5,6 +5,7 @@
 #include <condition_variable>
 #include <limits>
 #include <mutex>
+#include <new>
 
 namespace Pelmora::Native::Platform
 {
@@ -191,11 +192,17 @@ std::optional<std::string> WinHttpRequest::header(DWORD query) const
                                    WINHTTP_NO_HEADER_INDEX) != 0;
     };
     DWORD size = 0;
-    if (!read(nullptr, size) && GetLastError() != ERROR_INSUFFICIENT_BUFFER)
-        return std::nullopt;
+    if (!read(nullptr, size)) {
+        const DWORD error = GetLastError();
+        if (error == ERROR_WINHTTP_HEADER_NOT_FOUND)
+            return std::nullopt;
+        // Without it, nobody would see that a body has not its stated length.
+        if (error != ERROR_INSUFFICIENT_BUFFER)
+            throw std::bad_alloc();
+    }
     std::wstring value(size / sizeof(wchar_t) + 1, L'\0');
     if (!read(value.data(), size))
-        return std::nullopt;
+        throw std::bad_alloc();
     std::string bytes;
     for (const wchar_t unit : std::wstring_view(value.c_str()))
         bytes += unit <= 0xFF ? static_cast<char>(unit) : '?';

@@ -40,6 +40,14 @@ void require(HRESULT result)
                                 "MSXML 6 cannot be used; repair the Windows installation");
 }
 
+/// Whether a search found something.
+bool found(HRESULT result)
+{
+    if (result == E_OUTOFMEMORY)
+        throw std::bad_alloc();
+    return result == S_OK;
+}
+
 ComPointer<IXMLDOMDocument2> newDocument(const ComApartment& com)
 {
     require(com.status());
@@ -87,9 +95,9 @@ std::optional<UINT> codePageOf(std::string_view encoding)
     ComPointer<IMultiLanguage> languages;
     MIMECSETINFO information = {};
     const std::wstring name(encoding.begin(), encoding.end());
-    if (FAILED(CoCreateInstance(multiLanguageClass, nullptr, CLSCTX_INPROC_SERVER, multiLanguage,
+    if (!found(CoCreateInstance(multiLanguageClass, nullptr, CLSCTX_INPROC_SERVER, multiLanguage,
                                 reinterpret_cast<void**>(languages.receive()))) ||
-        FAILED(languages->GetCharsetInfo(Bstr(name).get(), &information)))
+        !found(languages->GetCharsetInfo(Bstr(name).get(), &information)))
         return std::nullopt;
     return information.uiInternetEncoding;
 }
@@ -250,10 +258,13 @@ bool XmlDocument::Content::load(std::string utf8)
         throw std::bad_alloc();
     std::memcpy(source.parray->pvData, utf8.data(), utf8.size());
     VARIANT_BOOL done = VARIANT_FALSE;
-    const HRESULT result = document->load(source, &done);
-    if (result == E_OUTOFMEMORY)
-        throw std::bad_alloc();
-    return result == S_OK && done == VARIANT_TRUE;
+    if (found(document->load(source, &done)) && done == VARIANT_TRUE)
+        return true;
+    ComPointer<IXMLDOMParseError> reason;
+    long code = 0;
+    if (found(document->get_parseError(reason.receive())) && found(reason->get_errorCode(&code)))
+        static_cast<void>(found(code)); // MSXML gives the reason only here
+    return false;
 }
 
 WideString XmlDocument::Content::textWithin(IXMLDOMNode& top) const
@@ -301,21 +312,21 @@ WideString XmlDocument::rootAttribute(const WideString& name) const
     const auto root = content_->root();
     ComPointer<IXMLDOMAttribute> attribute;
     NodePointer child;
-    if (root->getAttributeNode(Bstr(name).get(), attribute.receive()) == S_OK)
+    if (found(root->getAttributeNode(Bstr(name).get(), attribute.receive())))
         require(attribute->get_firstChild(child.receive()));
     if (child)
         return content_->textWithin(*attribute.get());
     // Under Wine, declarations of namespaces have no node.
     Variant value;
-    const HRESULT result = root->getAttribute(Bstr(name).get(), &value);
-    return result == S_OK ? WideString(value.text()) : WideString();
+    const bool isThere = found(root->getAttribute(Bstr(name).get(), &value));
+    return isThere ? WideString(value.text()) : WideString();
 }
 
 WideString XmlDocument::firstSelected(const WideString& expression) const
 {
     NodePointer node;
     if (expression.find(L'\0') != WideString::npos ||
-        content_->document->selectSingleNode(Bstr(expression).get(), node.receive()) != S_OK)
+        !found(content_->document->selectSingleNode(Bstr(expression).get(), node.receive())))
         return {};
     Bstr xml;
     require(node->get_xml(xml.receive()));
