@@ -48,8 +48,11 @@ void XmlErrors::check() const
 
 void XmlErrors::note(void* errors, xmlError* error)
 {
-    if (error->code == XML_ERR_NO_MEMORY)
-        static_cast<XmlErrors*>(errors)->outOfMemory_ = true;
+    auto& self = *static_cast<XmlErrors*>(errors);
+    // It says the same again of an attribute that is longer than its limits.
+    const bool isLimit = self.latestCode_ == XML_ERR_ATTRIBUTE_NOT_FINISHED;
+    self.outOfMemory_ = self.outOfMemory_ || (error->code == XML_ERR_NO_MEMORY && !isLimit);
+    self.latestCode_ = error->code;
 }
 
 } // namespace Pelmora::Native::Platform

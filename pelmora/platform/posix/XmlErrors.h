@@ -30,6 +30,7 @@ private:
     explicit XmlErrors(Initialised);
 
     bool outOfMemory_ = false;
+    int latestCode_ = XML_ERR_OK;
     xmlStructuredErrorFunc formerFunction_ = nullptr;
     void* formerContext_ = nullptr;
 };
