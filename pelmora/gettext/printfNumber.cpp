@@ -25,7 +25,7 @@ struct Parts {
     std::string digits;
 };
 
-std::string laidOut(const Conversion& conversion, Parts parts, bool zeroFilled)
+std::string laidOut(const Conversion& conversion, const Parts& parts, bool zeroFilled)
 {
     const auto width = static_cast<std::size_t>(conversion.width.value_or(0));
     const std::size_t length = parts.prefix.size() + parts.digits.size();
@@ -92,7 +92,8 @@ std::string printedDigits(const Conversion& conversion, int precision, char lett
 std::string generalDigits(const Conversion& conversion, double value)
 {
     const int precision = std::max(conversion.precision.value_or(defaultPrecision), 1);
-    const std::string scientific = printedDigits(conversion, precision - 1, 'e', value);
+    std::string scientific = printedDigits(conversion, precision - 1, 'e', value);
+    // NOLINTNEXTLINE(cert-err34-c): printf wrote a number there
     const int exponent = std::atoi(scientific.c_str() + scientific.find('e') + 1);
     if (exponent < -4 || exponent >= precision)
         return scientific;

@@ -51,7 +51,8 @@ constexpr std::array<std::uint8_t, kindRows.size()> isoNumbers = []() {
     std::array<std::uint8_t, kindRows.size()> numbers{};
     for (std::size_t kind = 0; kind < kindRows.size(); ++kind)
         for (std::size_t i = 0; i < static_cast<std::size_t>(kindRows[kind].isoKind); ++i)
-            numbers[kind] += static_cast<std::size_t>(kindRows[i].isoKind) == i;
+            if (static_cast<std::size_t>(kindRows[i].isoKind) == i)
+                ++numbers[kind];
     return numbers;
 }();
 

@@ -63,7 +63,7 @@ inline double convertedValue(double value, Elements from, Elements to) noexcept
 bool areCompatible(Elements a, Elements b);
 
 /// See Unit::getReduced; changes the unit in place.
-void reduce(ElementList& unit, double& factor);
+void reduce(ElementList& elements, double& factor);
 
 /// See UnitValue::toNormalized; changes value and unit in place.
 void normalize(double& value, std::span<UnitElement> unit, int maxMagnitude) noexcept;
