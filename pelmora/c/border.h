@@ -66,6 +66,7 @@ public:
     void clear() const
     {
         if (place_ != nullptr)
+            // NOLINTNEXTLINE(bugprone-sizeof-expression): for a handle, the pointer is meant
             *place_ = std::bit_cast<T>(std::array<std::byte, sizeof(T)>());
     }
 
@@ -161,6 +162,7 @@ pelmora_status give(T* place, const char* parameter, const Work& work)
 
 /// The text that `work` gives as the one result.
 template <class Char, class Work>
+// NOLINTNEXTLINE(readability-non-const-parameter): the result writes it
 pelmora_status giveText(Char* buffer, std::size_t capacity, std::size_t* length, const Work& work)
 {
     TextResult<Char> result(buffer, capacity, length);
