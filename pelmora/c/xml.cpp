@@ -57,7 +57,7 @@ pelmora_status pelmora_xml_element_with_attribute(const pelmora_xml* xml,
                                                   size_t* length)
 {
     return giveText(buffer, capacity, length, [&] {
-        const GString element =
+        GString element =
             required(xml, "xml")
                 .native.getElementWithAttributeValue(GString(requiredText(attribute, "attribute")),
                                                      GString(requiredText(value, "value")));
