@@ -27,11 +27,6 @@ bool containsAscii(unsigned int codePage)
            (codePage >= 1250 && codePage <= 1258);
 }
 
-bool isAscii(WideView text)
-{
-    return std::all_of(text.begin(), text.end(), [](WideChar unit) { return unit < 0x80; });
-}
-
 template <class Char>
 std::basic_string_view<Char> upToNul(std::basic_string_view<Char> text)
 {
@@ -56,8 +51,10 @@ WideString widened(std::string_view narrow, unsigned int codePage)
     // Calculated before the cut, so that a text that begins with its NUL has room for it.
     const std::size_t room = 2 * narrow.size();
     narrow = upToNul(narrow);
-    if (containsAscii(codePage) && asciiPrefix(narrow) == narrow.size())
-        return {narrow.begin(), narrow.end()};
+    // The host converts only what it must, since it takes longer.
+    if (codePage == utf8CodePage || (containsAscii(codePage) && isAscii(narrow)))
+        if (auto wide = decodedUtf8(narrow, Utf8Form::characters))
+            return *std::move(wide);
     const std::string terminated(narrow);
     WideString buffer(room, 0);
     const auto status = Platform::decode(codePage, terminated.c_str(), buffer);
@@ -139,23 +136,10 @@ GString::GString(std::string_view narrow, unsigned int codePage)
 
 GString GString::from_utf8(std::string_view utf8)
 {
-    // A longer sequence encodes a character that does not fit one unit; refused on purpose.
-    constexpr std::size_t longestSequence = 3;
-    WideString text;
-    text.reserve(utf8.size());
-    while (!utf8.empty()) {
-        const std::size_t ascii = asciiPrefix(utf8);
-        text.append(utf8.begin(), utf8.begin() + static_cast<std::ptrdiff_t>(ascii));
-        utf8.remove_prefix(ascii);
-        if (utf8.empty())
-            break;
-        const auto character = decodeUtf8(utf8, longestSequence);
-        if (!character)
-            throw "UTF8 error: source too large"; // NOLINT: callers expect a C string
-        text += static_cast<WideChar>(character->value);
-        utf8.remove_prefix(character->length);
-    }
-    return text;
+    auto text = decodedUtf8(utf8, Utf8Form::units);
+    if (!text)
+        throw "UTF8 error: source too large"; // NOLINT: callers expect a C string
+    return *std::move(text);
 }
 
 std::string GString::to_narrow(unsigned int codePage) const
@@ -165,12 +149,8 @@ std::string GString::to_narrow(unsigned int codePage) const
     if (codePage == utf8CodePage)
         return to_utf8();
     const WideView text = upToNul(WideView(text_));
-    if (containsAscii(codePage) && isAscii(text)) {
-        std::string narrow(text.size(), '\0');
-        std::transform(text.begin(), text.end(), narrow.begin(),
-                       [](WideChar unit) { return static_cast<char>(unit); });
-        return narrow;
-    }
+    if (containsAscii(codePage) && isAscii(text))
+        return encodedUtf8(text, Utf8Form::units);
     std::string buffer((text_.size() + 1) * 3, '\0');
     const auto status = Platform::encode(codePage, text_.c_str(), buffer);
     return takenResult(status, std::move(buffer));
@@ -178,11 +158,7 @@ std::string GString::to_narrow(unsigned int codePage) const
 
 std::string GString::to_utf8() const
 {
-    std::string result;
-    result.reserve(text_.size());
-    for (const WideChar unit : text_)
-        result += encodeUtf8(unit).view();
-    return result;
+    return encodedUtf8(text_, Utf8Form::units);
 }
 
 const char* GString::to_temp_c_str() const

@@ -50,7 +50,7 @@ void appendLocalised(NarrowBuilder& text, std::string_view number)
 
 void appendLocalised(WideBuilder& text, std::string_view number)
 {
-    if (asciiPrefix(number) == number.size())
+    if (isAscii(number))
         text.append(number);
     else // The global locale brought in characters of the ANSI code page.
         text.append(WideView(GString(number)));

@@ -1,7 +1,11 @@
 #include "pelmora/base/detail/utf8.h"
 
+#include <algorithm>
+#include <bit>
 #include <cassert>
 #include <cstring>
+#include <tuple>
+#include <type_traits>
 
 namespace Pelmora::Native
 {
@@ -27,6 +31,152 @@ constexpr std::array<SequenceRow, 6> sequences = {{
     {.marker = 0xF8, .leadMask = 0x03, .firstLead = 0xF8, .minSecond = 0x88, .largest = 0x3FFFFFF},
     {.marker = 0xFC, .leadMask = 0x01, .firstLead = 0xFC, .minSecond = 0x84, .largest = 0x7FFFFFFF},
 }};
+
+/// How much is converted in one go: into an array on the stack, since a string's own room cannot be
+/// written before it was filled with zeros.
+constexpr std::size_t pieceLength = 512;
+
+/// Most text is ASCII, of which this much is looked at in one step.
+constexpr std::size_t blockLength = 16;
+
+/// A block as machine words, of which the bits are set that ASCII does not have.
+template <class Char>
+class Block
+{
+public:
+    explicit Block(const Char* text) noexcept
+    {
+        constexpr std::uint64_t notAscii =
+            sizeof(Char) == 1 ? 0x8080808080808080U : 0xFF80FF80FF80FF80U;
+        std::memcpy(words_.data(), text, sizeof words_);
+        for (std::uint64_t& word : words_)
+            word &= notAscii;
+    }
+
+    bool isAscii() const noexcept
+    {
+        return std::apply([](auto... words) { return (words | ...) == 0; }, words_);
+    }
+
+    /// How many characters at its start are ASCII. Requires: not all.
+    std::size_t asciiLength() const noexcept
+    {
+        static_assert(std::endian::native == std::endian::little, "the first one is the lowest");
+        std::size_t i = 0;
+        while (words_[i] == 0)
+            ++i;
+        const auto bits = 64 * i + static_cast<std::size_t>(std::countr_zero(words_[i]));
+        return bits / (8 * sizeof(Char));
+    }
+
+private:
+    std::array<std::uint64_t, blockLength * sizeof(Char) / sizeof(std::uint64_t)> words_;
+};
+
+/// Copies the ASCII at the start of a text, and returns its length. Of what follows, it may write
+/// up to a block that means nothing.
+template <class From, class To>
+std::size_t copyAscii(std::basic_string_view<From> text, To* out) noexcept
+{
+    std::size_t done = 0;
+    while (text.size() - done >= blockLength) {
+        // Arrays that overlap nothing, of which the compiler makes vector registers.
+        std::array<std::make_unsigned_t<From>, blockLength> from;
+        std::array<To, blockLength> to;
+        std::memcpy(from.data(), text.data() + done, sizeof from);
+        for (std::size_t i = 0; i < blockLength; ++i)
+            to[i] = static_cast<To>(from[i]);
+        std::memcpy(out + done, to.data(), sizeof to);
+        const Block block(text.data() + done);
+        if (!block.isAscii())
+            return done + block.asciiLength();
+        done += blockLength;
+    }
+    for (; done < text.size() && std::make_unsigned_t<From>(text[done]) < 0x80; ++done)
+        out[done] = static_cast<To>(text[done]);
+    return done;
+}
+
+template <class Char>
+bool isAsciiText(std::basic_string_view<Char> text) noexcept
+{
+    for (; text.size() >= blockLength; text.remove_prefix(blockLength))
+        if (!Block(text.data()).isAscii())
+            return false;
+    for (const Char character : text)
+        if (std::make_unsigned_t<Char>(character) >= 0x80)
+            return false;
+    return true;
+}
+
+constexpr Utf8Character malformed = {0, 0};
+
+/// As `decodeUtf8`, but without the table: only for the sequences of two and three bytes that most
+/// text is made of, and not for all of them.
+Utf8Character decodeUsual(std::string_view text) noexcept
+{
+    const auto bits = [text](std::size_t i, unsigned int mask) -> std::uint32_t {
+        return static_cast<unsigned char>(text[i]) & mask;
+    };
+    const auto continues = [bits](std::size_t i) { return bits(i, 0xC0) == 0x80; };
+    const std::uint32_t lead = bits(0, 0xFF);
+    if (lead > 0xE0 && lead < 0xF0 && text.size() >= 3 && continues(1) && continues(2))
+        return {bits(0, 0x0F) << 12 | bits(1, 0x3F) << 6 | bits(2, 0x3F), 3};
+    if (lead >= 0xC2 && lead < 0xE0 && text.size() >= 2 && continues(1))
+        return {bits(0, 0x1F) << 6 | bits(1, 0x3F), 2};
+    return malformed;
+}
+
+bool isSurrogate(std::uint32_t value) noexcept
+{
+    return (value & 0xFFFFF800U) == 0xD800U;
+}
+
+bool isPair(WideChar first, WideChar second) noexcept
+{
+    return (first & 0xFC00U) == 0xD800U && (second & 0xFC00U) == 0xDC00U;
+}
+
+/// The character at the start of a text, in a form. Nothing optional is returned from here: where
+/// it was written in parts and is copied whole, the processor waits.
+Utf8Character decodeIn(Utf8Form form, std::string_view utf8) noexcept
+{
+    Utf8Character character = decodeUsual(utf8);
+    if (character.length == 0)
+        character = decodeUtf8(utf8, form == Utf8Form::units ? 3 : 4).value_or(malformed);
+    const bool isForeign = form == Utf8Form::characters &&
+                           (isSurrogate(character.value) || character.value > 0x10FFFF);
+    return isForeign ? malformed : character;
+}
+
+WideChar* putUtf16(std::uint32_t value, WideChar* out) noexcept
+{
+    if (value >= 0x10000) {
+        *out++ = static_cast<WideChar>(0xD7C0U + (value >> 10));
+        value = 0xDC00U | (value & 0x3FFU);
+    }
+    *out++ = static_cast<WideChar>(value);
+    return out;
+}
+
+/// As `encodeUtf8` does it, but without the table; requires: value > 0x7F.
+char* putUtf8(std::uint32_t value, char* out) noexcept
+{
+    const auto put = [&out](std::uint32_t byte) { *out++ = static_cast<char>(byte); };
+    if (value < 0x800) {
+        put(0xC0U | value >> 6);
+    } else {
+        if (value < 0x10000) {
+            put(0xE0U | value >> 12);
+        } else {
+            put(0xF0U | value >> 18);
+            put(0x80U | (value >> 12 & 0x3FU));
+        }
+        put(0x80U | (value >> 6 & 0x3FU));
+    }
+    put(0x80U | (value & 0x3FU));
+    return out;
+}
 
 } // namespace
 
@@ -70,19 +220,73 @@ Utf8Sequence encodeUtf8(std::uint32_t value) noexcept
     return sequence;
 }
 
-std::size_t asciiPrefix(std::string_view text) noexcept
+std::optional<WideString> decodedUtf8(std::string_view utf8, Utf8Form form)
 {
-    std::size_t length = 0;
-    std::uint64_t block = 0;
-    while (text.size() - length >= sizeof block) {
-        std::memcpy(&block, text.data() + length, sizeof block);
-        if ((block & 0x8080808080808080U) != 0)
-            break;
-        length += sizeof block;
+    WideString text;
+    if (utf8.size() > pieceLength)
+        text.reserve(utf8.size());
+    // The units of a sequence that begins in the piece, or the rest of a block, may exceed it.
+    std::array<WideChar, pieceLength + blockLength> piece;
+    while (!utf8.empty()) {
+        WideChar* out = piece.data();
+        const std::size_t pieceEnd = utf8.size() - std::min(utf8.size(), pieceLength);
+        while (utf8.size() > pieceEnd) {
+            if (static_cast<unsigned char>(utf8.front()) < 0x80) {
+                const std::size_t ascii = copyAscii(utf8.substr(0, utf8.size() - pieceEnd), out);
+                utf8.remove_prefix(ascii);
+                out += ascii;
+                continue;
+            }
+            const Utf8Character character = decodeIn(form, utf8);
+            if (character.length == 0)
+                return std::nullopt;
+            out = putUtf16(character.value, out);
+            utf8.remove_prefix(character.length);
+        }
+        text.append(piece.data(), out);
     }
-    while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80)
-        ++length;
-    return length;
+    return text;
+}
+
+std::string encodedUtf8(WideView text, Utf8Form form)
+{
+    constexpr std::size_t mostBytesOfUnit = 3;
+    std::string utf8;
+    if (text.size() > pieceLength)
+        utf8.reserve(text.size());
+    std::array<char, mostBytesOfUnit * pieceLength + blockLength> piece;
+    while (!text.empty()) {
+        char* out = piece.data();
+        const std::size_t pieceEnd = text.size() - std::min(text.size(), pieceLength);
+        while (text.size() > pieceEnd) {
+            if (text.front() < 0x80) {
+                const std::size_t ascii = copyAscii(text.substr(0, text.size() - pieceEnd), out);
+                text.remove_prefix(ascii);
+                out += ascii;
+                continue;
+            }
+            std::uint32_t value = text.front();
+            text.remove_prefix(1);
+            if (form == Utf8Form::characters && !text.empty() &&
+                isPair(static_cast<WideChar>(value), text.front())) {
+                value = 0x10000U + ((value & 0x3FFU) << 10) + (text.front() & 0x3FFU);
+                text.remove_prefix(1);
+            }
+            out = putUtf8(value, out);
+        }
+        utf8.append(piece.data(), out);
+    }
+    return utf8;
+}
+
+bool isAscii(std::string_view text) noexcept
+{
+    return isAsciiText(text);
+}
+
+bool isAscii(WideView text) noexcept
+{
+    return isAsciiText(text);
 }
 
 } // namespace Pelmora::Native
