@@ -57,10 +57,7 @@ std::uint32_t hashOf(std::string_view text)
     for (const char character : text) {
         hash = (hash << 4) + static_cast<unsigned char>(character);
         const std::uint32_t overflow = hash & 0xF0000000U;
-        if (overflow != 0) {
-            hash ^= overflow >> 24;
-            hash ^= overflow;
-        }
+        hash ^= overflow >> 24 ^ overflow;
     }
     return hash;
 }

@@ -2,20 +2,15 @@
 
 #include "pelmora/base/codePageNumbers.h"
 #include "pelmora/platform/posix/bestFit.h"
+#include "pelmora/platform/posix/converters.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cerrno>
 #include <cstring>
 #include <iterator>
-#include <memory>
-#include <new>
 #include <optional>
-#include <string>
 #include <string_view>
-
-#include <iconv.h>
 
 namespace Pelmora::Native::Platform
 {
@@ -38,80 +33,6 @@ unsigned int actualPage(unsigned int codePage)
     default:
         return codePage;
     }
-}
-
-std::string iconvName(unsigned int page)
-{
-    if (page == utf8CodePage)
-        return "UTF-8";
-    if (page == gb18030Page)
-        return "GB18030";
-    if (page == 20866)
-        return "KOI8-R";
-    if (page >= 28591 && page <= 28605)
-        return "ISO-8859-" + std::to_string(page - 28590);
-    return "CP" + std::to_string(page);
-}
-
-const iconv_t noConverter = reinterpret_cast<iconv_t>(-1); // NOLINT: iconv's own error value
-
-/// `noConverter` for a page that iconv does not know.
-iconv_t openConverter(const std::string& to, const std::string& from)
-{
-    iconv_t handle = iconv_open(to.c_str(), from.c_str());
-    if (handle == noConverter && errno != ENOMEM) {
-        // Without memory to load a converter, iconv does not know its page either.
-        constexpr std::size_t moreThanLoadingTakes = 65536;
-        static_cast<void>(std::make_unique<char[]>(moreThanLoadingTakes));
-        handle = iconv_open(to.c_str(), from.c_str());
-    }
-    if (handle == noConverter && errno == ENOMEM)
-        throw std::bad_alloc();
-    return handle;
-}
-
-class Converter
-{
-public:
-    Converter(const std::string& to, const std::string& from) : handle_(openConverter(to, from)) {}
-    Converter(const Converter&) = delete;
-    Converter& operator=(const Converter&) = delete;
-    ~Converter()
-    {
-        if (valid())
-            iconv_close(handle_);
-    }
-
-    bool valid() const { return handle_ != noConverter; }
-
-    /// Converts as much as possible; 0 when that is all, otherwise the error number.
-    int convert(char*& in, std::size_t& inLeft, char*& out, std::size_t& outLeft)
-    {
-        return error(iconv(handle_, &in, &inLeft, &out, &outLeft));
-    }
-
-    /// Writes what iconv holds back until more text comes.
-    int flush(char*& out, std::size_t& outLeft)
-    {
-        return error(iconv(handle_, nullptr, nullptr, &out, &outLeft));
-    }
-
-private:
-    static int error(std::size_t irreversible)
-    {
-        if (irreversible != static_cast<std::size_t>(-1))
-            return 0;
-        if (errno == ENOMEM)
-            throw std::bad_alloc();
-        return errno;
-    }
-
-    iconv_t handle_;
-};
-
-const char* utf16Name()
-{
-    return std::endian::native == std::endian::little ? "UTF-16LE" : "UTF-16BE";
 }
 
 bool isContinuation(unsigned char byte)
@@ -269,11 +190,9 @@ private:
 class Encoder
 {
 public:
-    // From whole characters, iconv takes one step. With a second one before it, it would decode all
-    // that it was given anew for each character that the page lacks.
     Encoder(unsigned int page, std::span<char> buffer)
         : page_(page),
-          converter_(iconvName(page), "WCHAR_T"),
+          converter_(borrowConverter(page, Direction::encoding)),
           out_(buffer.data()),
           outLeft_(buffer.size())
     {
@@ -281,14 +200,16 @@ public:
 
     ConversionStatus encode(WideView text)
     {
-        if (!converter_.valid())
+        if (converter_ == nullptr)
             return ConversionStatus::failed;
         std::array<wchar_t, 256> characters;
         auto status = ConversionStatus::done;
         while (!text.empty() && status == ConversionStatus::done) {
             std::size_t count = 0;
-            while (count < characters.size() && !text.empty())
-                characters[count++] = knownFits_.fitOr(takeCharacter(page_, text));
+            while (count < characters.size() && !text.empty()) {
+                const wchar_t character = takeCharacter(page_, text);
+                characters[count++] = knownFits_ ? knownFits_->fitOr(character) : character;
+            }
             status = convert(std::span(characters).first(count));
         }
         return status;
@@ -299,7 +220,7 @@ private:
     {
         char* in = reinterpret_cast<char*>(characters.data());
         std::size_t inLeft = characters.size_bytes();
-        while (const int error = converter_.convert(in, inLeft, out_, outLeft_)) {
+        while (const int error = converter_->convert(in, inLeft, out_, outLeft_)) {
             if (error == E2BIG || outLeft_ == 0)
                 return ConversionStatus::bufferTooSmall;
             wchar_t& missing = characters[characters.size() - inLeft / sizeof(wchar_t)];
@@ -312,7 +233,9 @@ private:
                 inLeft -= sizeof(wchar_t);
             } else {
                 const wchar_t fit = bestFit(page_, missing);
-                knownFits_.add(missing, fit);
+                if (!knownFits_)
+                    knownFits_.emplace();
+                knownFits_->add(missing, fit);
                 missing = fit;
             }
         }
@@ -320,8 +243,8 @@ private:
     }
 
     unsigned int page_;
-    Converter converter_;
-    KnownFits knownFits_;
+    BorrowedConverter converter_;
+    std::optional<KnownFits> knownFits_; // most texts need none
     char* out_;
     std::size_t outLeft_;
 };
@@ -331,8 +254,8 @@ private:
 ConversionStatus decode(unsigned int codePage, const char* text, std::span<WideChar> buffer)
 {
     const unsigned int page = actualPage(codePage);
-    Converter converter(utf16Name(), iconvName(page));
-    if (!converter.valid())
+    const BorrowedConverter converter = borrowConverter(page, Direction::decoding);
+    if (converter == nullptr)
         return ConversionStatus::failed;
 
     char* in = const_cast<char*>(text); // NOLINT: iconv reads only
@@ -343,9 +266,9 @@ ConversionStatus decode(unsigned int codePage, const char* text, std::span<WideC
         char* const start = in;
         const std::size_t leftBefore = outLeft;
         std::size_t offered = joinsMarks(page) ? 1 : static_cast<std::size_t>(end - in);
-        int error = converter.convert(in, offered, out, outLeft);
+        int error = converter->convert(in, offered, out, outLeft);
         if (error == 0)
-            error = converter.flush(out, outLeft);
+            error = converter->flush(out, outLeft);
         if (error == 0)
             continue;
         if (error == E2BIG || outLeft < sizeof(WideChar))
