@@ -30,134 +30,245 @@ constexpr std::array<Entity, 5> entities = {{
     {'<', "&lt;"},
 }};
 
-/// The number of the entity for each of the first 64 characters, which include all five; 5 for
-/// none.
-constexpr std::array<std::uint8_t, 64> entityNumbers = []() {
-    std::array<std::uint8_t, 64> numbers{};
-    numbers.fill(entities.size());
-    for (std::size_t i = 0; i < entities.size(); ++i)
-        numbers[static_cast<unsigned char>(entities[i].character)] = static_cast<std::uint8_t>(i);
-    return numbers;
-}();
-
+/// So many characters are copied and compared at once: no entity is longer.
+constexpr std::size_t paddedLength = 8;
 template <class Char>
-const Entity* entityOf(Char character)
-{
-    const auto value = static_cast<std::uint32_t>(std::make_unsigned_t<Char>(character));
-    const std::size_t number =
-        value < entityNumbers.size() ? entityNumbers[value] : entities.size();
-    return number < entities.size() ? &entities[number] : nullptr;
-}
+using Padded = std::array<Char, paddedLength>;
 
-constexpr std::size_t blockLength = 32; // whole vector registers, also for wide characters
-
-/// Whether none of the next `blockLength` characters has an entity. Without branches, so that the
-/// compiler tests many at once in vector registers.
+/// An entity with its text filled up with NULs, and a mask of what is not filling. Without an
+/// entity, it matches nothing that begins with an ampersand.
 template <class Char>
-bool isCleanBlock(const Char* text)
-{
-    Char found = 0;
-    for (std::size_t i = 0; i < blockLength; ++i) {
-        const Char c = text[i];
-        // 0x26 and 0x27, 0x3C and 0x3E differ in one bit each.
-        const bool special = (c | 1) == 0x27 || (c | 2) == 0x3E || c == 0x22;
-        found = static_cast<Char>(found | static_cast<Char>(special));
+struct Pattern {
+    Padded<Char> text{};
+    Padded<Char> mask = {static_cast<Char>(~Char(0))};
+    std::size_t length = 0;
+    Char character = 0;
+
+    constexpr Pattern() = default;
+    constexpr explicit Pattern(const Entity& entity)
+        : length(entity.text.size()), character(static_cast<Char>(entity.character))
+    {
+        std::copy(entity.text.begin(), entity.text.end(), text.begin());
+        std::fill_n(mask.begin(), length, static_cast<Char>(~Char(0)));
     }
-    return found == 0;
+
+    bool matches(const Padded<Char>& start) const
+    {
+        using Words = std::array<std::uint64_t, sizeof start / sizeof(std::uint64_t)>;
+        const auto given = std::bit_cast<Words>(start);
+        const auto wanted = std::bit_cast<Words>(text);
+        const auto compared = std::bit_cast<Words>(mask);
+        std::uint64_t difference = 0;
+        for (std::size_t i = 0; i < given.size(); ++i)
+            difference |= (given[i] ^ wanted[i]) & compared[i];
+        return difference == 0;
+    }
+};
+
+/// The entities' patterns, each at its place.
+template <class Char, std::size_t size, class Place>
+constexpr std::array<Pattern<Char>, size> patternsBy(Place place)
+{
+    std::array<Pattern<Char>, size> patterns{};
+    for (const Entity& entity : entities) {
+        Pattern<Char>& pattern = patterns[place(entity)];
+        if (pattern.length != 0)
+            throw "two entities share a place"; // NOLINT: an error of the compilation
+        pattern = Pattern<Char>(entity);
+    }
+    return patterns;
 }
 
-/// The number of leading characters without an entity, up to the first that has one.
+/// By the two characters after the ampersand.
+constexpr std::size_t slotOf(std::size_t second, std::size_t third)
+{
+    return (second ^ third) % 16;
+}
+
 template <class Char>
-std::size_t cleanLength(std::basic_string_view<Char> text)
+constexpr auto patternsByText = patternsBy<Char, 16>([](const Entity& entity) {
+    return slotOf(static_cast<unsigned char>(entity.text[1]),
+                  static_cast<unsigned char>(entity.text[2]));
+});
+
+template <class Char>
+constexpr auto patternsByCharacter = patternsBy<Char, 64>([](const Entity& entity) {
+    return static_cast<unsigned char>(entity.character);
+});
+
+/// The characters of a machine word, or those that are left of a text and NULs.
+template <class Char>
+class Word
+{
+public:
+    static constexpr std::size_t length = sizeof(std::uint64_t) / sizeof(Char);
+
+    explicit Word(std::basic_string_view<Char> text)
+    {
+        if (text.size() >= length)
+            std::memcpy(&bits_, text.data(), sizeof bits_);
+        else
+            std::memcpy(&bits_, text.data(), text.size() * sizeof(Char));
+    }
+
+    void copyTo(Char* out) const { std::memcpy(out, &bits_, sizeof bits_); }
+
+    // What is found is the highest bit of the first lane with such a character, which is the
+    // lowest, and perhaps bits of lanes behind it.
+    std::uint64_t equalTo(char character) const { return zeroLanes(bits_ ^ all(character)); }
+    /// Of two characters that differ in one bit.
+    std::uint64_t equalToEither(char smaller, char larger) const
+    {
+        return zeroLanes((bits_ | (all(smaller) ^ all(larger))) ^ all(larger));
+    }
+
+    static std::size_t firstOf(std::uint64_t found)
+    {
+        static_assert(std::endian::native == std::endian::little);
+        return static_cast<std::size_t>(std::countr_zero(found)) / (8 * sizeof(Char));
+    }
+
+private:
+    static constexpr std::uint64_t ones = ~std::uint64_t(0) / std::make_unsigned_t<Char>(~Char(0));
+    static constexpr std::uint64_t highBits = ones << (8 * sizeof(Char) - 1);
+
+    static constexpr std::uint64_t all(char character)
+    {
+        return ones * static_cast<unsigned char>(character);
+    }
+    static std::uint64_t zeroLanes(std::uint64_t x) { return (x - ones) & ~x & highBits; }
+
+    std::uint64_t bits_ = 0;
+};
+
+constexpr std::size_t blockLength = 256;
+
+/// The length of the blocks at the start of a text in which nothing is to be replaced. Tested
+/// without branches, so that the compiler takes vector registers.
+template <class Replacing, class Char>
+std::size_t cleanBlocks(std::basic_string_view<Char> text)
 {
     std::size_t length = 0;
-    while (text.size() - length >= blockLength && isCleanBlock(text.data() + length))
-        length += blockLength;
-    while (length < text.size() && entityOf(text[length]) == nullptr)
-        ++length;
+    for (; text.size() - length >= blockLength; length += blockLength) {
+        Char stops = 0;
+        for (std::size_t i = 0; i < blockLength; ++i) {
+            const bool isStop = Replacing::isStop(text[length + i]);
+            stops = static_cast<Char>(stops | static_cast<Char>(isStop));
+        }
+        if (stops != 0)
+            break;
+    }
     return length;
 }
 
-/// Copies leading characters that have no entity, at most one machine word, and returns how many.
-/// May write beyond them, up to the length of the word. Requires: `text` is not empty.
-template <class Char>
-std::size_t copyPlain(std::basic_string_view<Char> text, Char* out)
-{
-    static_assert(std::endian::native == std::endian::little, "the first character is the lowest");
-    constexpr std::size_t lanes = sizeof(std::uint64_t) / sizeof(Char);
-    if (text.size() < lanes) {
+/// What was replaced: so many characters by so many others.
+struct Step {
+    std::size_t read;
+    std::size_t written;
+};
+
+/// Replaces the five characters.
+struct Escaping {
+    template <class Char>
+    static bool isStop(Char c)
+    {
+        return (c | 1) == '\'' || (c | 2) == '>' || c == '"';
+    }
+
+    template <class Char>
+    static std::uint64_t stopsIn(const Word<Char>& word)
+    {
+        return word.equalToEither('&', '\'') | word.equalToEither('<', '>') | word.equalTo('"');
+    }
+
+    template <class Char>
+    static std::size_t cleanLength(std::basic_string_view<Char> text)
+    {
+        return cleanBlocks<Escaping>(text);
+    }
+
+    template <class Char>
+    static Step replace(std::basic_string_view<Char> text, Char* out)
+    {
+        const auto& pattern = patternsByCharacter<Char>[static_cast<std::size_t>(text.front())];
+        std::memcpy(out, pattern.text.data(), sizeof pattern.text);
+        return {1, pattern.length};
+    }
+};
+
+/// Replaces the five entities.
+struct Unescaping {
+    template <class Char>
+    static bool isStop(Char c)
+    {
+        return c == '&';
+    }
+
+    template <class Char>
+    static std::uint64_t stopsIn(const Word<Char>& word)
+    {
+        return word.equalTo('&');
+    }
+
+    template <class Char>
+    static std::size_t cleanLength(std::basic_string_view<Char> text)
+    {
+        if constexpr (sizeof(Char) == 1)
+            return std::min(text.find('&'), text.size()); // memchr
+        else
+            return cleanBlocks<Unescaping>(text);
+    }
+
+    template <class Char>
+    static Step replace(std::basic_string_view<Char> text, Char* out)
+    {
+        Padded<Char> start{};
+        if (text.size() >= start.size())
+            std::memcpy(start.data(), text.data(), sizeof start);
+        else
+            std::copy(text.begin(), text.end(), start.begin());
+        const std::size_t slot =
+            slotOf(std::make_unsigned_t<Char>(start[1]), std::make_unsigned_t<Char>(start[2]));
+        const auto& pattern = patternsByText<Char>[slot];
         *out = text.front();
-        return entityOf(text.front()) == nullptr ? 1 : 0;
+        if (!pattern.matches(start))
+            return {1, 1};
+        *out = pattern.character;
+        return {pattern.length, 1};
     }
-    std::uint64_t word = 0;
-    std::memcpy(&word, text.data(), sizeof word);
-    std::memcpy(out, &word, sizeof word);
+};
 
-    // The lowest lane whose highest bit is set is the first that equals a special character.
-    constexpr std::uint64_t ones = ~std::uint64_t(0) / std::make_unsigned_t<Char>(~Char(0));
-    constexpr std::uint64_t highBits = ones << (8 * sizeof(Char) - 1);
-    const auto zeroLanes = [](std::uint64_t x) { return (x - ones) & ~x & highBits; };
-    const std::uint64_t special = zeroLanes((word | ones) ^ (ones * 0x27)) |
-                                  zeroLanes((word | ones * 2) ^ (ones * 0x3E)) |
-                                  zeroLanes(word ^ (ones * 0x22));
-    if (special == 0)
-        return lanes;
-    return static_cast<std::size_t>(std::countr_zero(special)) / (8 * sizeof(Char));
-}
-
-template <class Char>
-std::basic_string<Char> escaped(std::basic_string_view<Char> text)
+/// One pass over a text: long clean parts as a whole, the others by words into an array on the
+/// stack, since a string's own room cannot be written before it was filled with zeros.
+template <class Replacing, class Char>
+std::basic_string<Char> converted(std::basic_string_view<Char> text)
 {
-    const std::size_t clean = cleanLength(text);
-    if (clean == text.size())
-        return std::basic_string<Char>(text);
-
-    constexpr std::size_t longestStep = 16; // a word and an entity
-    std::basic_string<Char> result(text.size() + text.size() / 4 + longestStep, Char(0));
-    std::size_t used = clean;
-    std::copy_n(text.data(), clean, result.data());
-    for (text.remove_prefix(clean); !text.empty();) {
-        if (result.size() - used < longestStep)
-            result.resize(2 * result.size());
-        const std::size_t plain = copyPlain(text, result.data() + used);
-        used += plain;
-        text.remove_prefix(plain);
-        const Entity* entity = text.empty() ? nullptr : entityOf(text.front());
-        if (entity != nullptr) {
-            std::copy(entity->text.begin(), entity->text.end(), result.data() + used);
-            used += entity->text.size();
-            text.remove_prefix(1);
-        }
-    }
-    result.resize(used);
-    return result;
-}
-
-/// The entity at the start of `text`; null if there is none.
-template <class Char>
-const Entity* entityAt(std::basic_string_view<Char> text)
-{
-    for (const Entity& entity : entities)
-        if (text.size() >= entity.text.size() &&
-            std::equal(entity.text.begin(), entity.text.end(), text.begin()))
-            return &entity;
-    return nullptr;
-}
-
-template <class Char>
-std::basic_string<Char> unescaped(std::basic_string_view<Char> text)
-{
+    constexpr std::size_t pieceLength = 512;
+    constexpr std::size_t longestStep = Word<Char>::length + paddedLength;
+    std::array<Char, pieceLength + longestStep> piece;
     std::basic_string<Char> result;
-    result.reserve(text.size());
+    if (text.size() > pieceLength)
+        result.reserve(text.size());
     while (!text.empty()) {
-        const std::size_t ampersand = std::min(text.find(Char('&')), text.size());
-        result.append(text.substr(0, ampersand));
-        text.remove_prefix(ampersand);
-        if (text.empty())
-            break;
-        const Entity* entity = entityAt(text);
-        result += entity == nullptr ? Char('&') : static_cast<Char>(entity->character);
-        text.remove_prefix(entity == nullptr ? 1 : entity->text.size());
+        const std::size_t clean = Replacing::cleanLength(text);
+        result.append(text.substr(0, clean));
+        text.remove_prefix(clean);
+        Char* out = piece.data();
+        while (!text.empty() && out < piece.data() + pieceLength) {
+            const Word<Char> word(text);
+            word.copyTo(out);
+            const std::uint64_t stops = Replacing::stopsIn(word);
+            const std::size_t plain =
+                stops == 0 ? std::min(text.size(), Word<Char>::length) : Word<Char>::firstOf(stops);
+            text.remove_prefix(plain);
+            out += plain;
+            if (stops != 0) {
+                const Step step = Replacing::replace(text, out);
+                text.remove_prefix(step.read);
+                out += step.written;
+            }
+        }
+        result.append(piece.data(), out);
     }
     return result;
 }
@@ -184,22 +295,22 @@ std::basic_string<Char> replaced(std::basic_string_view<Char> text,
 
 std::string escape(std::string_view text)
 {
-    return escaped(text);
+    return converted<Escaping>(text);
 }
 
 WideString escape(WideView text)
 {
-    return escaped(text);
+    return converted<Escaping>(text);
 }
 
 std::string unescape(std::string_view text)
 {
-    return unescaped(text);
+    return converted<Unescaping>(text);
 }
 
 WideString unescape(WideView text)
 {
-    return unescaped(text);
+    return converted<Unescaping>(text);
 }
 
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to)

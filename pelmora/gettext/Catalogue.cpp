@@ -3,9 +3,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <memory>
+#include <limits>
 #include <new>
-#include <stdexcept>
 
 namespace Pelmora::Native
 {
@@ -21,29 +20,6 @@ constexpr std::uint32_t smallestHashTable = 3;
 struct FileCloser {
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
-
-/// The whole file; nothing when it cannot be read. Platform::readWholeFile takes UTF-16, into which
-/// a narrow path outside the code page could not be converted.
-std::optional<std::string> fileContent(const std::string& path)
-{
-    errno = 0;
-    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
-    if (file == nullptr && errno == ENOMEM)
-        throw std::bad_alloc();
-    if (file == nullptr || std::fseek(file.get(), 0, SEEK_END) != 0)
-        return std::nullopt;
-    const long size = std::ftell(file.get());
-    std::rewind(file.get());
-    if (size == -1)
-        return std::nullopt;
-    try {
-        std::string content(static_cast<std::size_t>(size), '\0');
-        content.resize(std::fread(content.data(), 1, content.size(), file.get()));
-        return content;
-    } catch (const std::length_error&) { // ftell on a folder gives LONG_MAX on Linux
-        return std::nullopt;
-    }
-}
 
 std::uint32_t byteSwapped(std::uint32_t value)
 {
@@ -99,14 +75,37 @@ bool Catalogue::load(std::string path)
     if (path.size() <= 3 || !endsInMo(path))
         path += ".mo";
     Catalogue loaded;
-    loaded.data_ = fileContent(path).value_or("");
-    const bool isCatalogue = loaded.data_.size() >= smallestFile && loaded.readHeader();
+    const bool isCatalogue = loaded.readFile(path) && loaded.readHeader();
     *this = isCatalogue ? std::move(loaded) : Catalogue();
     return isCatalogue;
 }
 
+/// Platform::readWholeFile takes UTF-16, into which a narrow path outside the code page could not
+/// be converted.
+bool Catalogue::readFile(const std::string& path)
+{
+    errno = 0;
+    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
+    if (file == nullptr && errno == ENOMEM)
+        throw std::bad_alloc();
+    if (file == nullptr || std::fseek(file.get(), 0, SEEK_END) != 0)
+        return false;
+    const long length = std::ftell(file.get());
+    std::rewind(file.get());
+    constexpr long lengthOfFolder = std::numeric_limits<long>::max(); // on Linux
+    if (length == -1 || length == lengthOfFolder)
+        return false;
+    // A string would be filled with zeros before, which takes a third of the whole time.
+    const auto bytes = std::make_shared_for_overwrite<char[]>(static_cast<std::size_t>(length));
+    size_ = std::fread(bytes.get(), 1, static_cast<std::size_t>(length), file.get());
+    file_ = bytes;
+    return true;
+}
+
 bool Catalogue::readHeader() noexcept
 {
+    if (data().size() < smallestFile)
+        return false;
     const std::optional<std::uint32_t> first = numberAt(0);
     swapped_ = first == swappedMagic;
     if (!swapped_ && first != magic)
@@ -137,7 +136,7 @@ std::string Catalogue::to_po() const
     // A sound file names each of its strings once or a few times, so that all strings together are
     // not much longer than the file: 16 times as long, and 1 MiB for small files, cuts none short.
     // A hostile one could name the same long string in every slot.
-    std::size_t budget = 16 * data_.size() + (std::size_t(1) << 20);
+    std::size_t budget = 16 * data().size() + (std::size_t(1) << 20);
     const std::uint32_t slots = hashSize_ >= smallestHashTable ? hashSize_ : count_;
     for (std::uint32_t slot = 0; slot < slots; ++slot) {
         const std::optional<std::uint32_t> entry = numberAt(hashTable_ + std::uint64_t(slot) * 4);
@@ -150,7 +149,7 @@ std::string Catalogue::to_po() const
         // A string without a NUL was searched to the end of the file; less than that is counted
         // as the whole file.
         const std::size_t searched =
-            identifier.value_or(data_).size() + translation.value_or(data_).size();
+            identifier.value_or(data()).size() + translation.value_or(data()).size();
         if (searched > budget)
             break;
         budget -= searched;
@@ -168,10 +167,11 @@ std::string Catalogue::to_po() const
 /// The number at `offset`, read in the file's byte order; nothing outside the file.
 std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noexcept
 {
+    const std::string_view file = data();
     std::uint32_t value = 0;
-    if (data_.size() < sizeof value || offset > data_.size() - sizeof value)
+    if (offset > file.size() || file.size() - offset < sizeof value)
         return std::nullopt;
-    std::memcpy(&value, data_.data() + offset, sizeof value);
+    std::memcpy(&value, file.data() + offset, sizeof value);
     return swapped_ ? byteSwapped(value) : value;
 }
 
@@ -182,9 +182,9 @@ std::optional<std::string_view> Catalogue::fileFrom(std::uint64_t table,
     constexpr std::uint64_t descriptorSize = 8;
     constexpr std::uint64_t offsetInDescriptor = 4;
     const auto offset = numberAt(table + index * descriptorSize + offsetInDescriptor);
-    if (!offset || *offset >= data_.size())
+    if (!offset || *offset >= data().size())
         return std::nullopt;
-    return std::string_view(data_).substr(*offset);
+    return data().substr(*offset);
 }
 
 /// The string that a descriptor names, up to its NUL; nothing if the file ends before.

@@ -3,7 +3,9 @@
 #include "pelmora/export.h"
 #include "pelmora/gettext/gstringUtil.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -50,9 +52,17 @@ private:
     std::optional<std::uint32_t> indexOf(std::string_view msgid) const noexcept;
     std::optional<std::uint32_t> searchSorted(std::string_view msgid) const noexcept;
     std::optional<std::uint32_t> searchHashed(std::string_view msgid) const noexcept;
+    bool readFile(const std::string& path);
     bool readHeader() noexcept;
 
-    std::string data_; ///< the whole file; empty when nothing is loaded
+    /// The whole file; empty when nothing is loaded.
+    std::string_view data() const noexcept
+    {
+        return file_ == nullptr ? std::string_view() : std::string_view(file_.get(), size_);
+    }
+
+    std::shared_ptr<const char[]> file_; ///< shared by the catalogue's copies
+    std::size_t size_ = 0;
     bool swapped_ = false;
     std::uint32_t count_ = 0;
     std::uint32_t hashSize_ = 0;

@@ -118,21 +118,27 @@ void TextLocale::init(const std::string& path)
 
 GString TextLocale::translate(const std::string& msgid, unsigned int /*codePage*/) const
 {
+    return translated(msgid);
+}
+
+GString TextLocale::translated(std::string_view msgid) const
+{
     if (msgid.empty())
         return {};
     if (translator_ == nullptr && catalogue_ == nullptr)
         return GString(msgid);
     if (translator_ != nullptr)
-        if (GString translation = translator_(msgid); !translation.empty())
+        if (GString translation = translator_(std::string(msgid)); !translation.empty())
             return translation;
     if (logMissing_ && msgid != " ")
-        get_log() << "Translation missing in " << language_ << " for : \"" << msgid << "\"" << endl;
+        get_log() << "Translation missing in " << language_ << " for : \"" << std::string(msgid)
+                  << "\"" << endl;
     return GString(msgid);
 }
 
 GString TextLocale::tr(const char* text) const
 {
-    return text == nullptr ? GString() : translate(std::string(withoutTag(text)), code_page());
+    return text == nullptr ? GString() : translated(withoutTag(text));
 }
 
 unsigned int TextLocale::code_page() const noexcept

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace Pelmora::Native
 {
@@ -77,6 +78,8 @@ public:
     std::string dump_catalogue() const { return catalogue_->to_po(); }
 
 private:
+    GString translated(std::string_view msgid) const;
+
     Translator translator_ = nullptr;
     std::unique_ptr<Catalogue> catalogue_;
     bool catalogueIsUtf8_ = false;

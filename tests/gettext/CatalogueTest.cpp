@@ -61,6 +61,18 @@ TEST(Catalogue, FindsWhatMsgunfmtShows)
     }
 }
 
+TEST(Catalogue, SearchGoesOnAtTheStartOfTheHashTable)
+{
+    // "c" belongs into the last of five slots. Since "x" has taken it, it is one further.
+    const std::uint32_t numbers[] = {0x950412de, 0,  2, 28, 44, 5,  60,     // header
+                                     1,          80, 1, 82, 1,  84, 1,  86, // "c", "x", "C", "X"
+                                     1,          0,  0, 0,  2};
+    const std::string bytes(reinterpret_cast<const char*>(numbers), sizeof numbers);
+    Catalogue catalogue;
+    ASSERT_TRUE(load(catalogue, bytes + std::string("c\0x\0C\0X", 8)));
+    EXPECT_EQ(catalogue.lookup("c"), "C");
+}
+
 TEST(Catalogue, PoTextHasEveryEntryEscaped)
 {
     Catalogue catalogue;
