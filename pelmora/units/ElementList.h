@@ -35,7 +35,7 @@ public:
         else
             appendFew(elements.data(), elements.size());
     }
-    ElementList(const ElementList& other) : ElementList(std::span(other.begin(), other.end())) {}
+    ElementList(const ElementList& other) : ElementList(std::span(other.begin(), other.size())) {}
     ElementList(ElementList&& other) noexcept : many_(std::move(other.many_))
     {
         appendFew(other.few(), other.fewSize_);

@@ -61,13 +61,30 @@ std::uint8_t isoNumber(const UnitElement& element) noexcept
     return isoNumbers[kindIndex(element.unitType)];
 }
 
-/// Whether the ISO forms of the elements are equal in pairs, as those of mg/min and g/hr are.
-bool isoFormsAreEqualInOrder(Elements a, Elements b) noexcept
+bool haveEqualIsoForms(const UnitElement& x, const UnitElement& y) noexcept
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const UnitElement& x, const UnitElement& y) {
-                          return x.exponent == y.exponent && isoNumber(x) == isoNumber(y);
-                      });
+    return x.exponent == y.exponent && (x.unitType == y.unitType || isoNumber(x) == isoNumber(y));
+}
+
+/// Whether the elements pair off, each with one of an equal ISO form, as those of mg/min and g/hr
+/// do. Tries the same places first. Not for long units, which would take too many tries.
+bool isoFormsPairOff(Elements a, Elements b) noexcept
+{
+    constexpr std::size_t mostElements = 8;
+    const std::size_t size = a.size();
+    if (size != b.size() || size > mostElements)
+        return false;
+    unsigned int taken = 0; // a bit for each of b
+    for (std::size_t i = 0; i < size; ++i) {
+        std::size_t k = i;
+        while ((taken >> k & 1U) != 0 || !haveEqualIsoForms(a[i], b[k])) {
+            k = k + 1 < size ? k + 1 : 0;
+            if (k == i)
+                return false;
+        }
+        taken |= 1U << k;
+    }
+    return true;
 }
 
 /// Packs the ISO form into one integer, a digit of base 16 for each ISO kind. Distinct exponents of
@@ -100,7 +117,7 @@ bool isoHas(const Unit& unit, UnitTypeEnum kind, std::int32_t exponent)
 
 bool areCompatible(Elements a, Elements b)
 {
-    if (isoFormsAreEqualInOrder(a, b))
+    if (isoFormsPairOff(a, b))
         return true;
     const auto signature = isoSignature(a);
     const auto otherSignature = isoSignature(b);

@@ -4,6 +4,8 @@
 #include "tests/units/allocations.h"
 #include "tests/units/sampleUnits.h"
 
+#include <algorithm>
+#include <random>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -93,6 +95,30 @@ TEST(Unit, FactorsCountForEquivalenceNotForCompatibility)
         EXPECT_EQ(b.compatibleWith(a), compatible);
         EXPECT_EQ(a.isEquivalent(b), equivalent);
     }
+}
+
+TEST(Unit, AreCompatibleWhenTheirIsoFormsAreEqual)
+{
+    std::mt19937 random;
+    const auto anyUnit = [&](std::size_t most) {
+        Unit unit;
+        for (auto left = random() % most; left > 0; --left)
+            unit.elements.push_back({UnitTypeEnum(random() % 6), UnitPrefix(random() % 7),
+                                     static_cast<int>(random() % 8) - 4});
+        return unit;
+    };
+    int compatible = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const std::size_t most = i % 2 == 0 ? 4 : 12;
+        const Unit a = anyUnit(most);
+        Unit b = i % 3 == 0 ? a : anyUnit(most);
+        std::shuffle(b.elements.begin(), b.elements.end(), random);
+        const bool expected = a.getAsIsoUnit().unit == b.getAsIsoUnit().unit;
+        compatible += expected;
+        ASSERT_EQ(a.compatibleWith(b), expected)
+            << testing::PrintToString(a) << testing::PrintToString(b);
+    }
+    EXPECT_GT(compatible, 7000);
 }
 
 TEST(Unit, ClassesNeedTheExactExponentInTheIsoForm)
