@@ -11,14 +11,14 @@ using namespace Pelmora::Native;
 namespace
 {
 
-/// Half of them are halves, quarters, ... or a decimal with few digits, where rounding has ties.
+/// Half of them are multiples of some 1/2^n or 1/10^n, where rounding has ties.
 double anyNumber(std::mt19937_64& random)
 {
     const std::uint64_t bits = random();
     const auto whole = static_cast<double>(static_cast<std::int64_t>(bits) >> (bits % 64));
     switch (random() % 4) {
     case 0:
-        return std::bit_cast<double>(bits);
+        return std::bit_cast<double>(bits << random() % 64); // of few bits, also -0
     case 1:
         return std::ldexp(whole, -static_cast<int>(random() % 64));
     case 2:
