@@ -25,8 +25,7 @@ bool same(double a, double b)
 /// For factors that are products in another order.
 bool near(double a, double b)
 {
-    return same(a, b) || !std::isnormal(a) || !std::isnormal(b) ||
-           std::abs(a - b) <= 1e-13 * std::abs(a);
+    return same(a, b) || std::abs(a - b) <= 1e-13 * std::abs(a);
 }
 
 /// Mostly what units have, sometimes anything.
@@ -96,6 +95,7 @@ void compareReduced(const Unit& unit)
     if (!unit.isValid())
         return;
     double factor = 1;
+    double range = 0; // where an order may over- or underflow, others give other factors
     Unit reduced;
     std::vector<UnitElement> left(unit.elements.begin(), unit.elements.end());
     while (!left.empty()) {
@@ -107,6 +107,7 @@ void compareReduced(const Unit& unit)
                 return false;
             total += static_cast<std::uint32_t>(e.exponent);
             product *= e.toIso().factor;
+            range += std::abs(std::log2(e.toIso().factor));
             return true;
         };
         const std::size_t merged = std::erase_if(left, isMerged);
@@ -120,7 +121,7 @@ void compareReduced(const Unit& unit)
             factor *= product;
     }
     check(unit.getReduced().unit == reduced);
-    check(near(unit.getReduced().factor, factor));
+    check(!(range < 1000) || near(unit.getReduced().factor, factor));
 }
 
 void compareValues(const UnitValue& a, const UnitValue& b)
