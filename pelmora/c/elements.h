@@ -85,6 +85,7 @@ pelmora_status giveScaled(double* place, const char* parameter, pelmora_element*
 
 /// The text that `work` appends to a builder as the one result.
 template <class Char, class Work>
+// NOLINTNEXTLINE(readability-non-const-parameter): the result writes it
 pelmora_status giveBuilt(Char* buffer, std::size_t capacity, std::size_t* length, const Work& work)
 {
     TextResult<Char> result(buffer, capacity, length);

@@ -84,7 +84,7 @@ pelmora_status pelmora_element_compare(const pelmora_element* a, const pelmora_e
 {
     return give(order, "order", [&] {
         const auto compared = requiredElement(a, "a") <=> requiredElement(b, "b");
-        return (compared > 0) - (compared < 0);
+        return std::is_lt(compared) ? -1 : std::is_gt(compared) ? 1 : 0;
     });
 }
 
