@@ -18,7 +18,7 @@ struct {
     void* context;
 } installed;
 
-GString translateByCallback(std::string msgid)
+GString translateByCallback(std::string msgid) // NOLINT: by value, as a Translator takes it
 {
     std::vector<Native::WideChar> room(256);
     for (int attempt = 0; attempt < 2; ++attempt) {

@@ -103,10 +103,8 @@ bool isAsciiText(std::basic_string_view<Char> text) noexcept
     for (; text.size() >= blockLength; text.remove_prefix(blockLength))
         if (!Block(text.data()).isAscii())
             return false;
-    for (const Char character : text)
-        if (std::make_unsigned_t<Char>(character) >= 0x80)
-            return false;
-    return true;
+    return std::all_of(text.begin(), text.end(),
+                       [](Char character) { return std::make_unsigned_t<Char>(character) < 0x80; });
 }
 
 constexpr Utf8Character malformed = {0, 0};
