@@ -111,7 +111,11 @@ public:
             std::memcpy(&bits_, text.data(), text.size() * sizeof(Char));
     }
 
-    void copyTo(Char* out) const { std::memcpy(out, &bits_, sizeof bits_); }
+    void copyTo(Char* out) const
+    {
+        const auto characters = std::bit_cast<std::array<Char, length>>(bits_);
+        std::copy(characters.begin(), characters.end(), out); // memcpy would be checked each time
+    }
 
     // What is found is the highest bit of the first lane with such a character, which is the
     // lowest, and perhaps bits of lanes behind it.
@@ -150,9 +154,10 @@ std::size_t cleanBlocks(std::basic_string_view<Char> text)
 {
     std::size_t length = 0;
     for (; text.size() - length >= blockLength; length += blockLength) {
+        const Char* const block = text.data() + length; // a view would check each place
         Char stops = 0;
         for (std::size_t i = 0; i < blockLength; ++i) {
-            const bool isStop = Replacing::isStop(text[length + i]);
+            const bool isStop = Replacing::isStop(block[i]);
             stops = static_cast<Char>(stops | static_cast<Char>(isStop));
         }
         if (stops != 0)
@@ -191,7 +196,7 @@ struct Escaping {
     static Step replace(std::basic_string_view<Char> text, Char* out)
     {
         const auto& pattern = patternsByCharacter<Char>[static_cast<std::size_t>(text.front())];
-        std::memcpy(out, pattern.text.data(), sizeof pattern.text);
+        std::copy(pattern.text.begin(), pattern.text.end(), out);
         return {1, pattern.length};
     }
 };

@@ -164,8 +164,10 @@ std::string Catalogue::to_po() const
     return po;
 }
 
+// What the searches call for each slot is inline: calls took nearly half of their time.
+
 /// The number at `offset`, read in the file's byte order; nothing outside the file.
-std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noexcept
+inline std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noexcept
 {
     const std::string_view file = data();
     std::uint32_t value = 0;
@@ -176,8 +178,8 @@ std::optional<std::uint32_t> Catalogue::numberAt(std::uint64_t offset) const noe
 }
 
 /// The file from the start of the string that a descriptor names; nothing if that is outside.
-std::optional<std::string_view> Catalogue::fileFrom(std::uint64_t table,
-                                                    std::uint32_t index) const noexcept
+inline std::optional<std::string_view> Catalogue::fileFrom(std::uint64_t table,
+                                                           std::uint32_t index) const noexcept
 {
     constexpr std::uint64_t descriptorSize = 8;
     constexpr std::uint64_t offsetInDescriptor = 4;
@@ -200,7 +202,7 @@ std::optional<std::string_view> Catalogue::stringAt(std::uint64_t table,
 
 /// Compares only as much of the file as `msgid` is long: in a hostile file, every slot may name the
 /// same long string.
-bool Catalogue::isIdentifier(std::uint32_t index, std::string_view msgid) const noexcept
+inline bool Catalogue::isIdentifier(std::uint32_t index, std::string_view msgid) const noexcept
 {
     const auto rest = fileFrom(identifiers_, index);
     return rest && rest->size() > msgid.size() && rest->starts_with(msgid) &&

@@ -84,16 +84,17 @@ std::size_t copyAscii(std::basic_string_view<From> text, To* out) noexcept
         std::array<std::make_unsigned_t<From>, blockLength> from;
         std::array<To, blockLength> to;
         std::memcpy(from.data(), text.data() + done, sizeof from);
-        for (std::size_t i = 0; i < blockLength; ++i)
-            to[i] = static_cast<To>(from[i]);
-        std::memcpy(out + done, to.data(), sizeof to);
+        std::transform(from.begin(), from.end(), to.begin(),
+                       [](auto character) { return static_cast<To>(character); });
+        std::copy(to.begin(), to.end(), out + done); // memcpy would be checked at each step
         const Block block(text.data() + done);
         if (!block.isAscii())
             return done + block.asciiLength();
         done += blockLength;
     }
-    for (; done < text.size() && std::make_unsigned_t<From>(text[done]) < 0x80; ++done)
-        out[done] = static_cast<To>(text[done]);
+    for (const From* in = text.data();
+         done < text.size() && std::make_unsigned_t<From>(in[done]) < 0x80; ++done)
+        out[done] = static_cast<To>(in[done]);
     return done;
 }
 
@@ -113,8 +114,9 @@ constexpr Utf8Character malformed = {0, 0};
 /// text is made of, and not for all of them.
 Utf8Character decodeUsual(std::string_view text) noexcept
 {
-    const auto bits = [text](std::size_t i, unsigned int mask) -> std::uint32_t {
-        return static_cast<unsigned char>(text[i]) & mask;
+    const char* const bytes = text.data(); // a view would check each place once more
+    const auto bits = [bytes](std::size_t i, unsigned int mask) -> std::uint32_t {
+        return static_cast<unsigned char>(bytes[i]) & mask;
     };
     const auto continues = [bits](std::size_t i) { return bits(i, 0xC0) == 0x80; };
     const std::uint32_t lead = bits(0, 0xFF);
@@ -123,6 +125,12 @@ Utf8Character decodeUsual(std::string_view text) noexcept
     if (lead >= 0xC2 && lead < 0xE0 && text.size() >= 2 && continues(1))
         return {bits(0, 0x1F) << 6 | bits(1, 0x3F), 2};
     return malformed;
+}
+
+template <class Char>
+std::size_t sizeBetween(const Char* first, const Char* last) noexcept
+{
+    return static_cast<std::size_t>(last - first);
 }
 
 bool isSurrogate(std::uint32_t value) noexcept
@@ -225,21 +233,24 @@ std::optional<WideString> decodedUtf8(std::string_view utf8, Utf8Form form)
         text.reserve(utf8.size());
     // The units of a sequence that begins in the piece, or the rest of a block, may exceed it.
     std::array<WideChar, pieceLength + blockLength> piece;
-    while (!utf8.empty()) {
+    const char* in = utf8.data();
+    const char* const end = in + utf8.size();
+    while (in != end) {
+        const char* const pieceEnd = in + std::min(sizeBetween(in, end), pieceLength);
         WideChar* out = piece.data();
-        const std::size_t pieceEnd = utf8.size() - std::min(utf8.size(), pieceLength);
-        while (utf8.size() > pieceEnd) {
-            if (static_cast<unsigned char>(utf8.front()) < 0x80) {
-                const std::size_t ascii = copyAscii(utf8.substr(0, utf8.size() - pieceEnd), out);
-                utf8.remove_prefix(ascii);
+        while (in < pieceEnd) {
+            if (static_cast<unsigned char>(*in) < 0x80) {
+                const std::size_t ascii =
+                    copyAscii(std::string_view(in, sizeBetween(in, pieceEnd)), out);
+                in += ascii;
                 out += ascii;
                 continue;
             }
-            const Utf8Character character = decodeIn(form, utf8);
+            const Utf8Character character = decodeIn(form, {in, sizeBetween(in, end)});
             if (character.length == 0)
                 return std::nullopt;
+            in += character.length;
             out = putUtf16(character.value, out);
-            utf8.remove_prefix(character.length);
         }
         text.append(piece.data(), out);
     }
@@ -252,24 +263,22 @@ std::string encodedUtf8(WideView text, Utf8Form form)
     std::string utf8;
     if (text.size() > pieceLength)
         utf8.reserve(text.size());
-    std::array<char, mostBytesOfUnit * pieceLength + blockLength> piece;
-    while (!text.empty()) {
+    std::array<char, mostBytesOfUnit*(pieceLength + 1) + blockLength> piece;
+    const WideChar* in = text.data();
+    const WideChar* const end = in + text.size();
+    while (in != end) {
+        const WideChar* const pieceEnd = in + std::min(sizeBetween(in, end), pieceLength);
         char* out = piece.data();
-        const std::size_t pieceEnd = text.size() - std::min(text.size(), pieceLength);
-        while (text.size() > pieceEnd) {
-            if (text.front() < 0x80) {
-                const std::size_t ascii = copyAscii(text.substr(0, text.size() - pieceEnd), out);
-                text.remove_prefix(ascii);
+        while (in < pieceEnd) {
+            if (*in < 0x80) {
+                const std::size_t ascii = copyAscii(WideView(in, sizeBetween(in, pieceEnd)), out);
+                in += ascii;
                 out += ascii;
                 continue;
             }
-            std::uint32_t value = text.front();
-            text.remove_prefix(1);
-            if (form == Utf8Form::characters && !text.empty() &&
-                isPair(static_cast<WideChar>(value), text.front())) {
-                value = 0x10000U + ((value & 0x3FFU) << 10) + (text.front() & 0x3FFU);
-                text.remove_prefix(1);
-            }
+            std::uint32_t value = *in++;
+            if (form == Utf8Form::characters && in != end && isPair(in[-1], *in))
+                value = 0x10000U + ((value & 0x3FFU) << 10) + (*in++ & 0x3FFU);
             out = putUtf8(value, out);
         }
         utf8.append(piece.data(), out);
