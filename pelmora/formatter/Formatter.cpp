@@ -174,6 +174,7 @@ struct Step {
 
 /// Replaces the five characters.
 struct Escaping {
+    static constexpr std::size_t usualGrowth = 5; // quarters of the length
     template <class Char>
     static bool isStop(Char c)
     {
@@ -203,6 +204,7 @@ struct Escaping {
 
 /// Replaces the five entities.
 struct Unescaping {
+    static constexpr std::size_t usualGrowth = 4;
     template <class Char>
     static bool isStop(Char c)
     {
@@ -253,7 +255,7 @@ std::basic_string<Char> converted(std::basic_string_view<Char> text)
     std::array<Char, pieceLength + longestStep> piece;
     std::basic_string<Char> result;
     if (text.size() > pieceLength)
-        result.reserve(text.size());
+        result.reserve(text.size() / 4 * Replacing::usualGrowth);
     while (!text.empty()) {
         const std::size_t clean = Replacing::cleanLength(text);
         result.append(text.substr(0, clean));

@@ -261,8 +261,6 @@ std::string encodedUtf8(WideView text, Utf8Form form)
 {
     constexpr std::size_t mostBytesOfUnit = 3;
     std::string utf8;
-    if (text.size() > pieceLength)
-        utf8.reserve(text.size());
     std::array<char, mostBytesOfUnit*(pieceLength + 1) + blockLength> piece;
     const WideChar* in = text.data();
     const WideChar* const end = in + text.size();
@@ -282,6 +280,9 @@ std::string encodedUtf8(WideView text, Utf8Form form)
             out = putUtf8(value, out);
         }
         utf8.append(piece.data(), out);
+        const bool isStart = pieceEnd == text.data() + pieceLength;
+        if (isStart && in != end) // The rest is likely to be as dense.
+            utf8.reserve(utf8.size() * (text.size() / pieceLength + 1) / 16 * 17);
     }
     return utf8;
 }
