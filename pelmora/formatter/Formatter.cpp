@@ -196,7 +196,7 @@ struct Escaping {
     template <class Char>
     static Step replace(std::basic_string_view<Char> text, Char* out)
     {
-        const auto& pattern = patternsByCharacter<Char>[static_cast<std::size_t>(text.front())];
+        const auto& pattern = patternsByCharacter<Char>[std::make_unsigned_t<Char>(text.front())];
         std::copy(pattern.text.begin(), pattern.text.end(), out);
         return {1, pattern.length};
     }
