@@ -74,15 +74,18 @@ bool isoFormsPairOff(Elements a, Elements b) noexcept
     const std::size_t size = a.size();
     if (size != b.size() || size > mostElements)
         return false;
-    unsigned int taken = 0; // a bit for each of b
-    for (std::size_t i = 0; i < size; ++i) {
-        std::size_t k = i;
-        while ((taken >> k & 1U) != 0 || !haveEqualIsoForms(a[i], b[k])) {
+    const UnitElement* theirs = b.data();
+    unsigned int taken = 0; // a bit for each of theirs
+    std::size_t place = 0;
+    for (const UnitElement& element : a) {
+        std::size_t k = place;
+        while ((taken >> k & 1U) != 0 || !haveEqualIsoForms(element, theirs[k])) {
             k = k + 1 < size ? k + 1 : 0;
-            if (k == i)
+            if (k == place)
                 return false;
         }
         taken |= 1U << k;
+        ++place;
     }
     return true;
 }
