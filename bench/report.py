@@ -70,8 +70,9 @@ def cells(row, medians):
     for goal in row.goals:
         wanted, got = measured(goal, ours, peer)
         missed = missed or got > wanted * TOLERANCE
-    ratio = f"{ours['ns'] / peer['ns']:.2f}" + (" **missed**" if missed else "") if peer else (
-        "**missed**" if missed else "")
+    ratio = [f"{ours['ns'] / peer['ns']:.2g}" if ours["ns"] < 0.1 * peer["ns"] else
+             f"{ours['ns'] / peer['ns']:.2f}"] if peer else []
+    ratio = " ".join(ratio + ["**missed**"] * missed)
     counters = {key: x for key, x in ours.items() if key not in ("ns", "real_time", "cpu_time")}
     allocations = f"{counters['allocations']:.0f}" if "allocations" in counters else ""
     own = [figure(ours["ns"])] + [f"{counters[key]:.1f} {key}" for key in counters
