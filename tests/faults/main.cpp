@@ -38,12 +38,19 @@ void Trial::attempt(const Text& work, const Text& state)
 namespace
 {
 
+/// A line, which a crash ends.
+void begin(const Operation& operation, long nth)
+{
+    std::printf("%s\t%ld\t", operation.name.c_str(), nth);
+    std::fflush(stdout);
+}
+
 void tryCold(const Operation& operation, long nth)
 {
+    begin(operation, nth);
     Trial trial = {nth};
     operation.run(trial);
-    std::printf("%s\t%ld\t%s\nend\t%d\t%zx\n", operation.name.c_str(), nth, trial.complaint,
-                trial.wasRefused ? 1 : 0, trial.outcome);
+    std::printf("%s\nend\t%d\t%zx\n", trial.complaint, trial.wasRefused ? 1 : 0, trial.outcome);
 }
 
 /// How many allocations were refused.
@@ -55,8 +62,7 @@ long tryAll(const Operation& operation, long nth)
     operation.run(expected);
     long refusals = 0;
     for (int findings = 0; findings < mostFindings; ++nth, ++refusals) {
-        std::printf("%s\t%ld\t", operation.name.c_str(), nth);
-        std::fflush(stdout);
+        begin(operation, nth);
         Trial trial = {nth};
         long before = liveBlocks;
         operation.run(trial);
