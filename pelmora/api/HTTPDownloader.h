@@ -24,8 +24,7 @@ public:
     /// Goes directly to the server, whatever proxy the system is set to, and follows up to 50
     /// redirects, but none from https to http. The system's store says which certificates are
     /// trusted; on Linux SSL_CERT_FILE names another one, and SSL_CERT_DIR a further one. The body
-    /// is held in memory. Never throws. Several threads may download at once. The library stays in
-    /// the process after the first download, also when it is unloaded.
+    /// is held in memory. Never throws. Several threads may download at once.
     static bool DownloadFile(const char* url, const char* filepath, int timeoutMs, const char* user,
                              const char* pass);
 };

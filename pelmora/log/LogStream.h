@@ -29,8 +29,6 @@ namespace Pelmora::Native
 /// tries again. If the file cannot be opened, "unable to open " and its path are printed on
 /// standard output without a line end, and everything that is logged is dropped without an error.
 ///
-/// Once there is a log, the library stays loaded until the process ends.
-///
 /// There is no lock. Items of several threads may mix. Requires: the first use is by one thread.
 class PELMORA_API LogStream final : public LogInterface
 {

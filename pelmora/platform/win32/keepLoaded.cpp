@@ -13,4 +13,12 @@ void keepLoaded() noexcept
                        &unused);
 }
 
+namespace
+{
+
+/// What the linker's option "nodelete" does on Linux.
+[[maybe_unused]] const bool keptFromTheStart = (keepLoaded(), true);
+
+} // namespace
+
 } // namespace Pelmora::Native::Platform
