@@ -15,7 +15,7 @@ namespace Pelmora::Native::Platform
 /// that whoever gets them refuses the text instead of reading another one.
 std::string toUtf8(WideView text);
 
-/// Requires: well-formed UTF-8; other bytes give some harmless text.
+/// Requires: well-formed UTF-8; other bytes give "".
 WideString toUtf16(std::string_view utf8);
 
 } // namespace Pelmora::Native::Platform
