@@ -60,7 +60,7 @@ GString everythingElse(int number)
                                             UnitTypeEnum::UNIT_G, UnitPrefix::MICRO, 1)));
     const GString text = value.toNormalizedString(3) + GString(u"\u00E9\u65E5\u672C");
     return text + GString(text.to_narrow(932), 932) + GString(text.to_utf8(), 65001) +
-           Native::Formatter::escape(u"<\u00E9>") + Native::gettext_locale.tr("r|mg/dL");
+           GString(Native::Formatter::escape(text.text())) + Native::gettext_locale.tr("r|mg/dL");
 }
 
 // First, so that it is each service's first use in the process.
