@@ -9,6 +9,7 @@ void check(int holds, const char* condition, const char* file, int line);
 
 #define CHECK(condition) check((condition) ? 1 : 0, #condition, __FILE__, __LINE__)
 #define OK(call) CHECK((call) == PELMORA_OK && pelmora_last_error()[0] == '\0')
+#define GIVES(condition, call) (OK(call), CHECK(condition))
 #define FAILS(status, call) CHECK((call) == (status) && pelmora_last_error()[0] != '\0')
 #define COUNT(array) (sizeof(array) / sizeof *(array))
 #define NUL PELMORA_NUL_TERMINATED

@@ -10,29 +10,26 @@ void checkDialogTemplates(void)
     pelmora_dialog_template* dialog = NULL;
     FAILS(PELMORA_MALFORMED, pelmora_dialog_template_create(words, 12, &dialog));
     OK(pelmora_dialog_template_create(words, sizeof words, &dialog));
-    OK(pelmora_dialog_template_bytes(dialog, narrow, sizeof narrow, &length));
-    CHECK(length == sizeof words && memcmp(narrow, words, length) == 0);
+    GIVES(length == sizeof words && memcmp(narrow, words, length) == 0,
+          pelmora_dialog_template_bytes(dialog, narrow, sizeof narrow, &length));
     FAILS(PELMORA_BUFFER_TOO_SMALL, pelmora_dialog_template_bytes(dialog, narrow, 1, &length));
     CHECK(length == sizeof words);
 
     OK(pelmora_dialog_template_set_caption(dialog, w("Dose")));
-    OK(pelmora_dialog_template_caption(dialog, WIDE));
-    CHECK(isWide("Dose"));
+    GIVES(isWide("Dose"), pelmora_dialog_template_caption(dialog, WIDE));
     memset(narrow, 'x', 300);
     OK(pelmora_text_from_narrow(narrow, 300, 1252, WIDE));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_dialog_template_set_caption(dialog, wide));
-    OK(pelmora_dialog_template_font(dialog, &whole, NARROW));
-    CHECK(isNarrow("MS") && whole == 8);
+    GIVES(isNarrow("MS") && whole == 8, pelmora_dialog_template_font(dialog, &whole, NARROW));
     OK(pelmora_dialog_template_set_font_size(dialog, 9));
     OK(pelmora_dialog_template_set_font(dialog, "Tahoma", 10));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_dialog_template_set_font_size(dialog, 0x7FFF));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_dialog_template_set_font(dialog, "Tahoma", 0x7FFF));
-    OK(pelmora_dialog_template_font(dialog, &whole, NARROW));
-    CHECK(isNarrow("Tahoma") && whole == 10);
+    GIVES(isNarrow("Tahoma") && whole == 10, pelmora_dialog_template_font(dialog, &whole, NARROW));
     OK(pelmora_dialog_template_set_position(dialog, 1, 2));
     OK(pelmora_dialog_template_set_size(dialog, 3, 4));
-    OK(pelmora_dialog_template_bytes(dialog, narrow, sizeof narrow, &length));
-    CHECK(memcmp(narrow + 10, "\1\0\2\0\3\0\4\0", 8) == 0);
+    GIVES(memcmp(narrow + 10, "\1\0\2\0\3\0\4\0", 8) == 0,
+          pelmora_dialog_template_bytes(dialog, narrow, sizeof narrow, &length));
     pelmora_dialog_template_destroy(dialog);
     pelmora_dialog_template_destroy(NULL);
 }

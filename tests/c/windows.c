@@ -12,28 +12,22 @@ static void fonts(void)
     TEXTMETRICA metrics;
     OK(pelmora_font_create("Arial", -20, 1, 0, &font));
     OK(pelmora_font_handle(font, &handle));
-    OK(pelmora_text_metrics(handle, NULL, &metrics));
-    CHECK(metrics.tmHeight - metrics.tmInternalLeading == 20 && metrics.tmWeight == FW_BOLD);
-    OK(pelmora_text_height(handle, NULL, &whole));
-    CHECK(whole == metrics.tmHeight);
+    GIVES(metrics.tmHeight - metrics.tmInternalLeading == 20 && metrics.tmWeight == FW_BOLD,
+          pelmora_text_metrics(handle, NULL, &metrics));
+    GIVES(whole == metrics.tmHeight, pelmora_text_height(handle, NULL, &whole));
     FAILS(PELMORA_SYSTEM, pelmora_text_height(handle, (void*)1, &whole));
     pelmora_font_destroy(font);
     pelmora_font_destroy(NULL);
     CHECK(GetObjectType(handle) == 0);
-    OK(pelmora_create_font_handle("Arial", 20, 0, 1, &handle));
-    CHECK(DeleteObject(handle));
+    GIVES(DeleteObject(handle), pelmora_create_font_handle("Arial", 20, 0, 1, &handle));
 
     OK(pelmora_system_charset(&charset));
-    OK(pelmora_is_non_ansi_system(&truth));
-    CHECK(truth == (charset != ANSI_CHARSET));
+    GIVES(truth == (charset != ANSI_CHARSET), pelmora_is_non_ansi_system(&truth));
     OK(pelmora_font_exists("Small Fonts", charset, NULL, &truth));
-    OK(pelmora_has_small_fonts(&whole));
-    CHECK(truth == whole);
-    OK(pelmora_font_exists_any_charset("No such face", NULL, &truth));
-    CHECK(truth == 0);
+    GIVES(truth == whole, pelmora_has_small_fonts(&whole));
+    GIVES(truth == 0, pelmora_font_exists_any_charset("No such face", NULL, &truth));
     OK(pelmora_decipoints_to_height(7200, NULL, &whole));
-    OK(pelmora_height_to_decipoints(-whole, NULL, &whole));
-    CHECK(whole == 7200);
+    GIVES(whole == 7200, pelmora_height_to_decipoints(-whole, NULL, &whole));
 }
 
 static void monitors(void)
@@ -44,8 +38,7 @@ static void monitors(void)
     OK(pelmora_work_area_at_point(0, 0, &other));
     CHECK(SystemParametersInfoA(SPI_GETWORKAREA, 0, &expected, 0));
     CHECK(memcmp(&work, &expected, sizeof work) == 0 && memcmp(&other, &work, sizeof work) == 0);
-    OK(pelmora_monitor_pixels_per_cm(NULL, &whole));
-    CHECK(whole >= 0);
+    GIVES(whole >= 0, pelmora_monitor_pixels_per_cm(NULL, &whole));
     OK(pelmora_monitor_identifier(NULL, NARROW));
 }
 
@@ -58,12 +51,12 @@ static void drawing(void)
     const HDC screen = GetDC(NULL), dc = CreateCompatibleDC(screen);
     const HBITMAP bitmap = CreateCompatibleBitmap(screen, 8, 8);
     const HGDIOBJ before = SelectObject(dc, bitmap);
-    OK(pelmora_show_dib(dc, &information, &pixel, &four, &one));
-    CHECK(GetPixel(dc, 3, 3) == RGB(0x10, 0x20, 0x30));
-    OK(pelmora_draw_solid_rect(dc, 1, 1, 5, 5, RGB(1, 2, 3)));
-    CHECK(GetPixel(dc, 3, 3) == RGB(1, 2, 3));
-    OK(pelmora_show_dib_resource(dc, 1, &four, &one, NULL));
-    CHECK(GetPixel(dc, 3, 3) == RGB(0, 0, 0xFF));
+    GIVES(GetPixel(dc, 3, 3) == RGB(0x10, 0x20, 0x30),
+          pelmora_show_dib(dc, &information, &pixel, &four, &one));
+    GIVES(GetPixel(dc, 3, 3) == RGB(1, 2, 3),
+          pelmora_draw_solid_rect(dc, 1, 1, 5, 5, RGB(1, 2, 3)));
+    GIVES(GetPixel(dc, 3, 3) == RGB(0, 0, 0xFF),
+          pelmora_show_dib_resource(dc, 1, &four, &one, NULL));
     FAILS(PELMORA_SYSTEM, pelmora_show_dib_resource(dc, 9, &four, &one, NULL));
     CHECK(SelectObject(dc, before) == bitmap && DeleteObject(bitmap) && DeleteDC(dc));
     ReleaseDC(NULL, screen);
@@ -73,20 +66,15 @@ static void datesAndFiles(const char* folder)
 {
     static char path[MAX_PATH];
     FILE* file = NULL;
-    OK(pelmora_current_date_text(1, NARROW));
-    CHECK(length > 5);
-    OK(pelmora_current_time_text(0, NARROW));
-    CHECK(strchr(narrow, ':') != NULL);
+    GIVES(length > 5, pelmora_current_date_text(1, NARROW));
+    GIVES(strchr(narrow, ':') != NULL, pelmora_current_time_text(0, NARROW));
     snprintf(path, sizeof path, "%s/readOnly", folder);
     file = fopen(path, "wb");
     CHECK(file != NULL && fclose(file) == 0);
     CHECK(SetFileAttributesA(path, FILE_ATTRIBUTE_READONLY));
-    OK(pelmora_remove_read_only(path, 1));
-    CHECK(remove(path) == 0);
-    OK(pelmora_path_exists(path, &truth));
-    CHECK(truth == 0);
-    OK(pelmora_path_exists(folder, &truth));
-    CHECK(truth == 1);
+    GIVES(remove(path) == 0, pelmora_remove_read_only(path, 1));
+    GIVES(truth == 0, pelmora_path_exists(path, &truth));
+    GIVES(truth == 1, pelmora_path_exists(folder, &truth));
 }
 
 /* Presses the button of the number that the context leads to; 77 ends the dialog with -42. */
@@ -117,10 +105,10 @@ static void dialogs(void)
     OK(pelmora_dialog_template_create(words, sizeof words, &dialog));
     for (i = 0; i < COUNT(rows); ++i) {
         WPARAM button = rows[i].button;
-        OK(pelmora_run_modal_dialog_template(dialog, NULL, NULL, press, &button, &result));
-        CHECK(result == rows[i].result);
-        OK(pelmora_run_modal_dialog(2, NULL, NULL, press, &button, &result));
-        CHECK(result == rows[i].result);
+        GIVES(result == rows[i].result,
+              pelmora_run_modal_dialog_template(dialog, NULL, NULL, press, &button, &result));
+        GIVES(result == rows[i].result,
+              pelmora_run_modal_dialog(2, NULL, NULL, press, &button, &result));
     }
     FAILS(PELMORA_SYSTEM,
           pelmora_run_modal_dialog_template(dialog, (void*)1, NULL, NULL, NULL, &result));
@@ -128,11 +116,10 @@ static void dialogs(void)
     FAILS(PELMORA_SYSTEM, pelmora_run_modal_dialog(9, NULL, NULL, NULL, NULL, &result));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_end_modal_dialog((void*)1, 0));
 
-    OK(pelmora_dialog_template_base_units(dialog, &x, &y));
-    CHECK(MAKELONG(x, y) == GetDialogBaseUnits());
+    GIVES(MAKELONG(x, y) == GetDialogBaseUnits(),
+          pelmora_dialog_template_base_units(dialog, &x, &y));
     OK(pelmora_dialog_to_pixels(dialog, 40, 80, &x, &y));
-    OK(pelmora_pixels_to_dialog(dialog, x, y, &x, &y));
-    CHECK(x == 40 && y == 80);
+    GIVES(x == 40 && y == 80, pelmora_pixels_to_dialog(dialog, x, y, &x, &y));
     pelmora_dialog_template_destroy(dialog);
     OK(pelmora_dialog_template_load(NULL, 2, &dialog));
     OK(pelmora_dialog_template_use_system_font(dialog));
@@ -148,18 +135,13 @@ static void controls(void)
         CreateWindowA("STATIC", "", WS_OVERLAPPED, 0, 0, 9, 9, NULL, NULL, NULL, NULL);
     const HWND box = CreateWindowA("COMBOBOX", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, 0, 0,
                                    9, 9, parent, NULL, NULL, NULL);
-    OK(pelmora_disable_control(box, &truth));
-    CHECK(truth == 0 && !IsWindowEnabled(box));
-    OK(pelmora_enable_control(box, 1, &truth));
-    CHECK(truth == 1 && IsWindowEnabled(box));
-    OK(pelmora_show_control(box, 0, &truth));
-    CHECK(truth == 1 && (GetWindowLongA(box, GWL_STYLE) & WS_VISIBLE) == 0);
-    OK(pelmora_is_combo_box(box, &truth));
-    CHECK(truth == 1);
-    OK(pelmora_is_combo_box(parent, &truth));
-    CHECK(truth == 0);
-    OK(pelmora_is_drop_down_list(box, &truth));
-    CHECK(truth == 1 && DestroyWindow(parent));
+    GIVES(truth == 0 && !IsWindowEnabled(box), pelmora_disable_control(box, &truth));
+    GIVES(truth == 1 && IsWindowEnabled(box), pelmora_enable_control(box, 1, &truth));
+    GIVES(truth == 1 && (GetWindowLongA(box, GWL_STYLE) & WS_VISIBLE) == 0,
+          pelmora_show_control(box, 0, &truth));
+    GIVES(truth == 1, pelmora_is_combo_box(box, &truth));
+    GIVES(truth == 0, pelmora_is_combo_box(parent, &truth));
+    GIVES(truth == 1 && DestroyWindow(parent), pelmora_is_drop_down_list(box, &truth));
 }
 
 void checkWindows(const char* folder)
