@@ -35,7 +35,10 @@ struct Outcome {
     pelmora_status status = PELMORA_OK;
 
     Outcome() = default;
-    Outcome(double number, const Unit& u) : bits(std::bit_cast<std::uint64_t>(number)), unit(u) {}
+    Outcome(double number, const Unit& u, pelmora_status s = PELMORA_OK)
+        : bits(std::bit_cast<std::uint64_t>(number)), unit(u), status(s)
+    {
+    }
     Outcome(const UnitValue& value) : Outcome(value.value, value.unit) {}
     Outcome(const ScaledUnit& scaled) : Outcome(scaled.factor, scaled.unit) {}
     Outcome(const GString& t) : text(t) {}
@@ -49,12 +52,9 @@ Outcome callScaled(pelmora_status(PELMORA_CALL* function)(Arguments...), Given..
     double number = 0;
     Elements room(24);
     std::size_t count = 0;
-    Outcome outcome;
-    outcome.status = function(given..., &number, room.data(), room.size(), &count);
+    const auto status = function(given..., &number, room.data(), room.size(), &count);
     room.resize(count);
-    outcome.bits = std::bit_cast<std::uint64_t>(number);
-    outcome.unit = toUnit(room);
-    return outcome;
+    return {number, toUnit(room), status};
 }
 
 template <class... Arguments, class... Given>
@@ -62,11 +62,9 @@ Outcome callUnit(pelmora_status(PELMORA_CALL* function)(Arguments...), Given... 
 {
     Elements room(24);
     std::size_t count = 0;
-    Outcome outcome = {0, {}};
-    outcome.status = function(given..., room.data(), room.size(), &count);
+    const auto status = function(given..., room.data(), room.size(), &count);
     room.resize(count);
-    outcome.unit = toUnit(room);
-    return outcome;
+    return {0, toUnit(room), status};
 }
 
 template <class... Arguments, class... Given>
@@ -115,66 +113,43 @@ TEST(CInterface, CalculatesAsTheCppOneDoes)
         Unit rest = p.unit;
         rest.removeUnitType(UnitTypeEnum(number));
 
-        const Outcome c[] = {
-            callScaled(pelmora_unit_reduced, a, m),
-            callScaled(pelmora_unit_as_iso, a, m),
-            callScaled(pelmora_unit_shift_prefix, a, m, number),
-            callUnit(pelmora_unit_mul, a, m, b, n),
-            callUnit(pelmora_unit_inverted, a, m),
-            callUnit(pelmora_unit_remove_kind, a, m, number),
-            ask(pelmora_unit_compatible, a, m, b, n),
-            ask(pelmora_unit_equivalent, a, m, b, n),
-            ask(pelmora_unit_valid, a, m),
-            ask(pelmora_unit_has_kind, a, m, number, 1),
-            ask(pelmora_unit_is_rate, a, m),
-            ask(pelmora_unit_is_volume, a, m),
-            ask(pelmora_unit_is_mol, a, m),
-            ask(pelmora_unit_is_per_patient, a, m),
-            ask(pelmora_unit_is_weight, a, m),
-            ask(pelmora_unit_is_unit, a, m),
-            callText(pelmora_unit_text, a, m),
-            callScaled(pelmora_value_mul, p.value, a, m, q.value, b, n),
-            callScaled(pelmora_value_div, p.value, a, m, q.value, b, n),
-            callScaled(pelmora_value_mul_reduced, p.value, a, m, q.value, b, n),
-            callScaled(pelmora_value_div_reduced, p.value, a, m, q.value, b, n),
-            callScaled(pelmora_value_convert_reduced, p.value, a, m, b, n),
-            callScaled(pelmora_value_inverted, p.value, a, m),
-            callScaled(pelmora_value_reduced, p.value, a, m),
-            callScaled(pelmora_value_normalized, p.value, a, m, number),
-            callText(pelmora_value_text, p.value, a, m, number),
-            callText(pelmora_value_normalized_text, p.value, a, m, number),
+        const std::pair<Outcome, Outcome> rows[] = {
+            // of C and of C++
+            {callScaled(pelmora_unit_reduced, a, m), p.unit.getReduced()},
+            {callScaled(pelmora_unit_as_iso, a, m), p.unit.getAsIsoUnit()},
+            {callScaled(pelmora_unit_shift_prefix, a, m, number), p.unit.shiftPrefix(number)},
+            {callUnit(pelmora_unit_mul, a, m, b, n), {0, p.unit.mul(q.unit)}},
+            {callUnit(pelmora_unit_inverted, a, m), {0, p.unit.inverted()}},
+            {callUnit(pelmora_unit_remove_kind, a, m, number), {0, rest}},
+            {ask(pelmora_unit_compatible, a, m, b, n), p.unit.compatibleWith(q.unit)},
+            {ask(pelmora_unit_equivalent, a, m, b, n), p.unit.isEquivalent(q.unit)},
+            {ask(pelmora_unit_valid, a, m), p.unit.isValid()},
+            {ask(pelmora_unit_has_kind, a, m, number, 1),
+             p.unit.hasUnitType(UnitTypeEnum(number), 1)},
+            {ask(pelmora_unit_is_rate, a, m), p.unit.unitIsRate()},
+            {ask(pelmora_unit_is_volume, a, m), p.unit.unitIsVolume()},
+            {ask(pelmora_unit_is_mol, a, m), p.unit.unitIsMol()},
+            {ask(pelmora_unit_is_per_patient, a, m), p.unit.unitIsPrPt()},
+            {ask(pelmora_unit_is_weight, a, m), p.unit.unitIsWeight()},
+            {ask(pelmora_unit_is_unit, a, m), p.unit.unitIsUnit()},
+            {callText(pelmora_unit_text, a, m), p.unit.toString()},
+            {callScaled(pelmora_value_mul, p.value, a, m, q.value, b, n), p.mul(q)},
+            {callScaled(pelmora_value_div, p.value, a, m, q.value, b, n), p.div(q)},
+            {callScaled(pelmora_value_mul_reduced, p.value, a, m, q.value, b, n),
+             p.mul(q).getReduced()},
+            {callScaled(pelmora_value_div_reduced, p.value, a, m, q.value, b, n),
+             p.div(q).getReduced()},
+            {callScaled(pelmora_value_convert_reduced, p.value, a, m, b, n),
+             converted.getReduced()},
+            {callScaled(pelmora_value_inverted, p.value, a, m), p.inverted()},
+            {callScaled(pelmora_value_reduced, p.value, a, m), p.getReduced()},
+            {callScaled(pelmora_value_normalized, p.value, a, m, number), p.toNormalized(number)},
+            {callText(pelmora_value_text, p.value, a, m, number), p.toString(number)},
+            {callText(pelmora_value_normalized_text, p.value, a, m, number),
+             p.toNormalizedString(number)},
         };
-        const Outcome cpp[] = {
-            p.unit.getReduced(),
-            p.unit.getAsIsoUnit(),
-            p.unit.shiftPrefix(number),
-            {0, p.unit.mul(q.unit)},
-            {0, p.unit.inverted()},
-            {0, rest},
-            p.unit.compatibleWith(q.unit),
-            p.unit.isEquivalent(q.unit),
-            p.unit.isValid(),
-            p.unit.hasUnitType(UnitTypeEnum(number), 1),
-            p.unit.unitIsRate(),
-            p.unit.unitIsVolume(),
-            p.unit.unitIsMol(),
-            p.unit.unitIsPrPt(),
-            p.unit.unitIsWeight(),
-            p.unit.unitIsUnit(),
-            p.unit.toString(),
-            p.mul(q),
-            p.div(q),
-            p.mul(q).getReduced(),
-            p.div(q).getReduced(),
-            converted.getReduced(),
-            p.inverted(),
-            p.getReduced(),
-            p.toNormalized(number),
-            p.toString(number),
-            p.toNormalizedString(number),
-        };
-        for (std::size_t row = 0; row < std::size(c); ++row)
-            ASSERT_TRUE(c[row] == cpp[row]) << "row " << row << " of try " << i;
+        for (const auto& row : rows)
+            ASSERT_TRUE(row.first == row.second) << "row " << &row - rows << " of try " << i;
         double result = 0;
         ASSERT_EQ(PELMORA_OK, pelmora_value_convert(p.value, a, m, b, n, &result));
         ASSERT_EQ(Outcome(p.getConvertedValue(q.unit), {}), Outcome(result, {})) << i;
