@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
+#include <functional>
 #include <iomanip>
 #include <iterator>
 #include <sstream>
@@ -45,6 +46,12 @@ protected:
     }
     ~LogStreamTest() override { std::remove(path().c_str()); }
 
+    /// Does this in a process of its own, which must end well.
+    static void inAProcess(const std::function<void()>& actions)
+    {
+        EXPECT_EXIT(actions(), testing::ExitedWithCode(0), "");
+    }
+
     std::string path() const { return Platform::temporaryFolder() + name_; }
 
     /// The file without headers. Its date must be today's.
@@ -68,18 +75,16 @@ using LogStreamDeathTest = LogStreamTest;
 
 TEST_F(LogStreamDeathTest, EveryItemOutlivesAProcessThatEndsAtOnce)
 {
-    EXPECT_EXIT(
-        {
-            get_log() << "text " << std::string("string ") << GString(u"\u00E9 ") << 'c' << ' '
-                      << short(-1) << ' ' << static_cast<unsigned short>(65535) << ' ' << -2 << ' '
-                      << 4000000000U << ' ' << -3L << ' ' << 4UL << ' ' << 5LL << ' ' << 2.5F << ' '
-                      << -0.125 << ' ' << reinterpret_cast<const void*>(0x1F) << ' ' << true << ' '
-                      << false << ' ' << 1e300 << endl;
-            get_log().write("written");
-            get_log() << reinterpret_cast<const void*>(0x123456789ABCDEF0);
-            std::_Exit(0);
-        },
-        testing::ExitedWithCode(0), "");
+    inAProcess([] {
+        get_log() << "text " << std::string("string ") << GString(u"\u00E9 ") << 'c' << ' '
+                  << short(-1) << ' ' << static_cast<unsigned short>(65535) << ' ' << -2 << ' '
+                  << 4000000000U << ' ' << -3L << ' ' << 4UL << ' ' << 5LL << ' ' << 2.5F << ' '
+                  << -0.125 << ' ' << reinterpret_cast<const void*>(0x1F) << ' ' << true << ' '
+                  << false << ' ' << 1e300 << endl;
+        get_log().write("written");
+        get_log() << reinterpret_cast<const void*>(0x123456789ABCDEF0);
+        std::_Exit(0);
+    });
     EXPECT_EQ(written(),
               "HEADER\ntext string \xE9 c -1 65535 -2 4000000000 -3 4 5 2.500000 -0.125000 "
               "0x1f true false " +
@@ -99,14 +104,12 @@ struct LateLogger {
 
 TEST_F(LogStreamDeathTest, WhatIsLoggedAfterTheEndIsAppended)
 {
-    EXPECT_EXIT(
-        {
-            get_log() << "first" << endl;
-            forkAndEndTheChild();
-            logsLate = true;
-            std::exit(0);
-        },
-        testing::ExitedWithCode(0), "");
+    inAProcess([] {
+        get_log() << "first" << endl;
+        forkAndEndTheChild();
+        logsLate = true;
+        std::exit(0);
+    });
     EXPECT_EQ(written(), "HEADER\nfirst\n-eof-\nHEADER\n"
                          "Warning: the LogStream has been destroyed once\nlate\n");
 }
@@ -119,17 +122,15 @@ GString answerNothing(std::string)
 
 TEST_F(LogStreamDeathTest, TranslationsOfTheHeaderReportAfterIt)
 {
-    EXPECT_EXIT(
-        {
-            log_settings().header_text = "Ward 7";
-            gettext_locale.init("zz");
-            gettext_locale.set_translator(answerNothing);
-            gettext_locale.set_log_missing(true);
-            gettext_locale.tr("Dose");
-            gettext_locale.tr(" ");
-            std::exit(0);
-        },
-        testing::ExitedWithCode(0), "");
+    inAProcess([] {
+        log_settings().header_text = "Ward 7";
+        gettext_locale.init("zz");
+        gettext_locale.set_translator(answerNothing);
+        gettext_locale.set_log_missing(true);
+        gettext_locale.tr("Dose");
+        gettext_locale.tr(" ");
+        std::exit(0);
+    });
     const std::string missing = "asked\nTranslation missing in zz for : \"";
     EXPECT_EQ(written(), "HEADER\nWard 7\n" + std::string(75, '-') + "\n" + missing + "Date:\"\n" +
                              missing + " Time:\"\n" + missing + "Dose\"\nasked\n-eof-\n");
@@ -137,27 +138,23 @@ TEST_F(LogStreamDeathTest, TranslationsOfTheHeaderReportAfterIt)
 
 TEST_F(LogStreamDeathTest, BeginsEvenWhenTheTranslatorThrows)
 {
-    EXPECT_EXIT(
-        {
-            gettext_locale.set_translator([](std::string) -> GString { throw "no text"; });
-            get_log() << "begun" << endl;
-            std::_Exit(0);
-        },
-        testing::ExitedWithCode(0), "");
+    inAProcess([] {
+        gettext_locale.set_translator([](std::string) -> GString { throw "no text"; });
+        get_log() << "begun" << endl;
+        std::_Exit(0);
+    });
     EXPECT_EQ(written(), "HEADER\nbegun\n");
 }
 
 TEST_F(LogStreamDeathTest, FirstLogOfAProcessTruncatesUnlessToldOtherwiseAndThenAppends)
 {
     for (const bool appends : {false, true}) {
-        EXPECT_EXIT(
-            {
-                log_settings().append_mode = appends;
-                get_log() << appends << endl;
-                std::ofstream(path(), std::ios::app) << "another program's\n";
-                std::exit(0);
-            },
-            testing::ExitedWithCode(0), "");
+        inAProcess([&] {
+            log_settings().append_mode = appends;
+            get_log() << appends << endl;
+            std::ofstream(path(), std::ios::app) << "another program's\n";
+            std::exit(0);
+        });
     }
     EXPECT_EQ(written(), "HEADER\nfalse\nanother program's\n-eof-\n"
                          "HEADER\ntrue\nanother program's\n-eof-\n");
@@ -178,13 +175,11 @@ void logAndUnload(const std::string& fileName, const char* line)
 
 TEST_F(LogStreamDeathTest, GoesOnWhenTheLibraryIsUnloadedAndLoadedAgain)
 {
-    EXPECT_EXIT(
-        {
-            logAndUnload(log_settings().file_name, "first\n");
-            logAndUnload(log_settings().file_name, "second\n");
-            std::exit(0);
-        },
-        testing::ExitedWithCode(0), "");
+    inAProcess([] {
+        logAndUnload(log_settings().file_name, "first\n");
+        logAndUnload(log_settings().file_name, "second\n");
+        std::exit(0);
+    });
     EXPECT_EQ(written(), "HEADER\nfirst\nsecond\n-eof-\n");
 }
 
