@@ -8,10 +8,20 @@ namespace Pelmora.Tests
     [TestFixture]
     public class DownloadTest
     {
-        /// <summary>What was downloaded over an older, longer file; "(failed)" when that file is
-        /// still there whole.</summary>
-        private static string Downloaded(string path, int timeoutMs = 20000, string user = null,
-            string pass = null)
+        // What comes over an older, longer file; "(failed)" when that file is still there whole.
+        [TestCase("/text", -1, null, null, "text")]
+        [TestCase("/echo/\u00E9?q#fragment", 20000, null, null, "/echo/%C3%A9?q []")]
+        [TestCase("/redirect/3", 20000, null, null, "end")]
+        [TestCase("/status/404", 20000, null, null, "(failed)")]
+        [TestCase("/text\0", 20000, null, null, "(failed)")]
+        [TestCase("/silent", 300, null, null, "(failed)")]
+        [TestCase("/text", 0, null, null, "(failed)")]
+        [TestCase("/basic?m:s3:cret", 20000, "m", "s3:cret", "let in")]
+        [TestCase("/basic?:", 20000, "", "", "let in")]
+        [TestCase("/basic?m:s", 20000, null, "s", "(failed)")]
+        [TestCase("/basic?m:s", 20000, "m", null, "(failed)")]
+        public void BodiesAndFailures(
+            string path, int timeoutMs, string user, string pass, string expected)
         {
             string file = Path.Combine(Path.GetTempPath(), "pelmora caf\u00E9 1.bin");
             string older = new string('o', 6000);
@@ -22,36 +32,13 @@ namespace Pelmora.Tests
                 "http://127.0.0.1:" + port + path, file, timeoutMs, user, pass);
             string content = File.ReadAllText(file);
             File.Delete(file);
-            if (!done)
-                return content == older ? "(failed)" : "(failed and harmed the file)";
-            return content;
-        }
-
-        [TestCase("/text", "text")]
-        [TestCase("/echo/\u00E9?q#fragment", "/echo/%C3%A9?q []")]
-        [TestCase("/redirect/3", "end")]
-        [TestCase("/status/404", "(failed)")]
-        [TestCase("/text\0", "(failed)")]
-        public void BodiesAndFailures(string path, string content)
-        {
-            Assert.AreEqual(content, Downloaded(path));
-        }
-
-        [TestCase("/basic?m:s3:cret", "m", "s3:cret", "let in")]
-        [TestCase("/basic?:", "", "", "let in")]
-        [TestCase("/basic?m:s", null, "s", "(failed)")]
-        [TestCase("/basic?m:s", "m", null, "(failed)")]
-        public void CredentialsAreBothOrNone(string path, string user, string pass, string content)
-        {
-            Assert.AreEqual(content, Downloaded(path, 20000, user, pass));
+            Assert.AreEqual(expected != "(failed)", done);
+            Assert.AreEqual(done ? expected : older, content);
         }
 
         [Test]
-        public void TimeLimitsAndNulls()
+        public void NullsFail()
         {
-            Assert.AreEqual("(failed)", Downloaded("/silent", 300));
-            Assert.AreEqual("(failed)", Downloaded("/text", 0));
-            Assert.AreEqual("text", Downloaded("/text", -1));
             Assert.False(HTTPDownloader.DownloadFile(null, "file"));
             Assert.False(HTTPDownloader.DownloadFile("http://127.0.0.1/", null));
         }

@@ -30,22 +30,20 @@ namespace Pelmora.Tests
         {
             var rows = new[]
             {
-                Tuple.Create(new ExceptionData(), "|||||", Prio.PRIO_NONE, Type.TYPE_EXCEPTION),
-                Tuple.Create(new ExceptionData("msg"), "msg|||||", Prio.PRIO_FATAL,
-                    Type.TYPE_EXCEPTION),
+                Tuple.Create(new ExceptionData(), "||||||PRIO_NONE|TYPE_EXCEPTION"),
+                Tuple.Create(new ExceptionData("msg"), "msg||||||PRIO_FATAL|TYPE_EXCEPTION"),
                 Tuple.Create(new ExceptionData("msg", "src", "trace", "site"),
-                    "msg|src|trace|site||", Prio.PRIO_FATAL, Type.TYPE_EXCEPTION),
+                    "msg|src|trace|site|||PRIO_FATAL|TYPE_EXCEPTION"),
                 Tuple.Create(new ExceptionData("msg", "src", "trace", "site", Prio.PRIO_NOTE,
                     "params", Type.TYPE_DEBUGMESSAGE, "dest"),
-                    "msg|src|trace|site|params|dest", Prio.PRIO_NOTE, Type.TYPE_DEBUGMESSAGE),
+                    "msg|src|trace|site|params|dest|PRIO_NOTE|TYPE_DEBUGMESSAGE"),
             };
             foreach (var row in rows)
             {
                 ExceptionData data = row.Item1;
                 Assert.AreEqual(row.Item2, string.Join("|", data.mMessage, data.mSource,
-                    data.mStackTrace, data.mTargetSite, data.mParameters, data.mDestination));
-                Assert.AreEqual(row.Item3, data.mPriority);
-                Assert.AreEqual(row.Item4, data.mType);
+                    data.mStackTrace, data.mTargetSite, data.mParameters, data.mDestination,
+                    data.mPriority, data.mType));
                 Assert.AreEqual(DateTimeKind.Local, data.mDateTime.Kind);
                 Assert.Less((DateTime.Now - data.mDateTime).TotalMinutes, 1);
             }
@@ -54,19 +52,13 @@ namespace Pelmora.Tests
         [Test]
         public void AReportSaysWhereAnExceptionCameFrom()
         {
-            try
-            {
-                throw new InvalidOperationException("no \u00E9lan") { Source = "ward" };
-            }
-            catch (InvalidOperationException error)
-            {
-                var data = new ExceptionData(error);
-                Assert.AreEqual("no \u00E9lan", data.mMessage);
-                Assert.AreEqual("ward", data.mSource);
-                StringAssert.Contains("AReportSaysWhere", data.mTargetSite);
-                StringAssert.Contains("AReportSaysWhere", data.mStackTrace);
-                Assert.AreEqual(Prio.PRIO_FATAL, data.mPriority);
-            }
+            var data = new ExceptionData(Assert.Throws<InvalidOperationException>(
+                () => throw new InvalidOperationException("no \u00E9lan") { Source = "ward" }));
+            Assert.AreEqual("no \u00E9lan", data.mMessage);
+            Assert.AreEqual("ward", data.mSource);
+            StringAssert.Contains("AReportSaysWhere", data.mTargetSite);
+            StringAssert.Contains("AReportSaysWhere", data.mStackTrace);
+            Assert.AreEqual(Prio.PRIO_FATAL, data.mPriority);
             Assert.Throws<NullReferenceException>(() => new ExceptionData(new Exception("new")));
             Assert.Throws<NullReferenceException>(() => new ExceptionData((Exception)null));
         }
