@@ -15,19 +15,6 @@ namespace ManagedHTTP
 namespace
 {
 
-/// Sets a variable of the environment while it lives.
-class Environment
-{
-public:
-    Environment(const char* name, const char* value) : name_(name) { setenv(name, value, 1); }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-    ~Environment() { unsetenv(name_); }
-
-private:
-    const char* name_;
-};
-
 bool download(const std::string& url, const char* user = nullptr, const char* pass = nullptr)
 {
     const Pelmora::TemporaryFolder folder;
@@ -41,12 +28,13 @@ TEST(Trust, ACertificateIsForItsHostOnly)
     const std::string plain = std::getenv("PELMORA_HTTP_PORT");
     const std::string secure = "https://localhost:" + port;
     EXPECT_FALSE(download(secure + "/text"));
-    const Environment trusted("SSL_CERT_FILE", std::getenv("PELMORA_CERTIFICATE"));
+    setenv("SSL_CERT_FILE", std::getenv("PELMORA_CERTIFICATE"), 1);
     EXPECT_TRUE(download(secure + "/text"));
     EXPECT_TRUE(download(secure + "/to?/text"));
     EXPECT_TRUE(download("http://127.0.0.1:" + plain + "/to?" + secure + "/text"));
     EXPECT_FALSE(download("https://127.0.0.1:" + port + "/text"));
     EXPECT_FALSE(download(secure + "/to?http://127.0.0.1:" + plain + "/text"));
+    unsetenv("SSL_CERT_FILE");
 }
 
 TEST(Trust, DigestAuthentication)

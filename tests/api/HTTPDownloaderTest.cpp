@@ -176,16 +176,12 @@ TEST(HTTPDownloader, Files)
 
 TEST(HTTPDownloader, SeveralThreads)
 {
-    std::vector<std::string> results(8);
-    {
-        std::vector<std::jthread> threads;
-        for (std::size_t i = 0; i < results.size(); ++i)
-            threads.emplace_back([&results, i] {
-                results[i] = downloaded(server() + (i % 2 == 0 ? "/redirect/3" : "/text"));
-            });
-    }
-    for (std::size_t i = 0; i < results.size(); ++i)
-        EXPECT_EQ(results[i], i % 2 == 0 ? "end" : "text");
+    std::vector<std::jthread> threads;
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([redirected = i % 2 == 0] {
+            EXPECT_EQ(downloaded(server() + (redirected ? "/redirect/3" : "/text")),
+                      redirected ? "end" : "text");
+        });
 }
 
 TEST(HTTPDownloader, UntrustedCertificatesFail)

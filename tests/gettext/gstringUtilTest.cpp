@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -15,11 +16,7 @@ namespace
 
 TEST(GString, ToLongReadsAsWcstolOnWindows)
 {
-    const struct {
-        GString text;
-        std::int32_t value;
-        bool ok;
-    } rows[] = {
+    const std::tuple<GString, std::int32_t, bool> rows[] = {
         {u"42", 42, true},
         {u"42x", 42, false},
         {u"", 0, true},
@@ -38,12 +35,12 @@ TEST(GString, ToLongReadsAsWcstolOnWindows)
         {u"-99999999999999999999", -2147483647 - 1, true},
         {WideString{'4', 0, '2'}, 4, false},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.text));
-        bool ok = !row.ok;
-        EXPECT_EQ(row.text.to_long(&ok), row.value);
-        EXPECT_EQ(ok, row.ok);
-        EXPECT_EQ(row.text.to_long(), row.value);
+    for (const auto& [text, value, isWhole] : rows) {
+        SCOPED_TRACE(testing::PrintToString(text));
+        bool ok = !isWhole;
+        EXPECT_EQ(text.to_long(&ok), value);
+        EXPECT_EQ(ok, isWhole);
+        EXPECT_EQ(text.to_long(), value);
     }
     // Digits of seventeen scripts and ASCII; before a digit also two signs and 24 kinds of space.
     int digits = 0;

@@ -55,24 +55,14 @@ static_assert(
 template <class Text>
 constexpr bool isGivenBack = requires(const RegistryKey key, Text text, HKEY root)
 {
-    {
-        key.readString(text, text)
-        } -> std::same_as<Text>;
-    {
-        key.readMultiString(text)
-        } -> std::same_as<std::vector<Text>>;
-    {
-        regiRead(root, text, text, text)
-        } -> std::same_as<Text>;
+    requires std::same_as<decltype(key.readString(text, text)), Text>;
+    requires std::same_as<decltype(key.readMultiString(text)), std::vector<Text>>;
+    requires std::same_as<decltype(regiRead(root, text, text, text)), Text>;
 };
 static_assert(isGivenBack<std::string> && isGivenBack<GString>);
 static_assert(requires(const RegistryKey key) {
-    {
-        key.readString("name", {})
-        } -> std::same_as<std::string>;
-    {
-        key.readString(L"name", {})
-        } -> std::same_as<GString>;
+    requires std::same_as<decltype(key.readString("name", {})), std::string>;
+    requires std::same_as<decltype(key.readString(L"name", {})), GString>;
 });
 
 static_assert(!areTaken<int, int> && !areTaken<std::u16string, GString>);

@@ -123,12 +123,8 @@ TEST(Unit, AreCompatibleWhenTheirIsoFormsAreEqual)
 
 TEST(Unit, ClassesNeedTheExactExponentInTheIsoForm)
 {
-    const struct {
-        Unit unit;
-        bool valid;
-        unsigned int rateDivisor;
-        const char* classes; ///< the letters of the predicates that are true
-    } rows[] = {
+    const std::tuple<Unit, bool, unsigned int, const char*> rows[] = {
+        // unit, valid, divisor of the rate, and the letters of the predicates that are true
         {unitOf({}), true, 0, ""},
         {unitOf({mL, perMin}), true, 60, "RV"},
         {unitOf({{UNIT_L, NONE, 2}}), true, 0, ""},
@@ -141,18 +137,18 @@ TEST(Unit, ClassesNeedTheExactExponentInTheIsoForm)
         {unitOf({count}), false, 0, ""},
         {unitOf({{UnitTypeEnum(15), NONE, 1}}), true, 0, ""},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.unit));
+    for (const auto& [unit, valid, rateDivisor, expected] : rows) {
+        SCOPED_TRACE(testing::PrintToString(unit));
         std::string classes;
-        classes += row.unit.unitIsRate() ? "R" : "";
-        classes += row.unit.unitIsVolume() ? "V" : "";
-        classes += row.unit.unitIsMol() ? "M" : "";
-        classes += row.unit.unitIsPrPt() ? "P" : "";
-        classes += row.unit.unitIsWeight() ? "W" : "";
-        classes += row.unit.unitIsUnit() ? "U" : "";
-        EXPECT_EQ(classes, row.classes);
-        EXPECT_EQ(row.unit.isValid(), row.valid);
-        EXPECT_EQ(row.unit.getRateDivisor(), row.rateDivisor);
+        classes += unit.unitIsRate() ? "R" : "";
+        classes += unit.unitIsVolume() ? "V" : "";
+        classes += unit.unitIsMol() ? "M" : "";
+        classes += unit.unitIsPrPt() ? "P" : "";
+        classes += unit.unitIsWeight() ? "W" : "";
+        classes += unit.unitIsUnit() ? "U" : "";
+        EXPECT_EQ(classes, expected);
+        EXPECT_EQ(unit.isValid(), valid);
+        EXPECT_EQ(unit.getRateDivisor(), rateDivisor);
     }
 }
 

@@ -52,11 +52,8 @@ TEST(UnitValue, DividingByZeroGivesZero)
 
 TEST(UnitValue, ConversionsMultiplyAndThenDivide)
 {
-    const struct {
-        double value;
-        Unit unit, target;
-        double converted; ///< in the order of evaluation: value x factor / factor
-    } rows[] = {
+    const std::tuple<double, Unit, Unit, double> rows[] = {
+        // value, unit, target, and converted: value x factor / factor, in the order of evaluation
         {1, unitOf({hr}), unitOf({{UNIT_MIN, NONE, 1}}), 60},
         {1, unitOf({{UNIT_MIUS, NONE, 1}}), unitOf({m}), 1609.34721869},
         {1, unitOf({{UNIT_INCH, NONE, 1}}), unitOf({cm}), 0.0254 / 0.01},
@@ -64,13 +61,12 @@ TEST(UnitValue, ConversionsMultiplyAndThenDivide)
          0.3 * (0.001 * (1.0 / 60)) / (0.001 * (1.0 / 3600))},
         {7, unitOf({mg}), unitOf({hr}), 7 * 0.001 / 3600}, // without meaning, but a number
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.unit) + " to " +
-                     testing::PrintToString(row.target));
-        UnitValue value(row.value, row.unit);
-        EXPECT_EQ(value.getConvertedValue(row.target), row.converted);
-        value.convertTo(row.target);
-        expectValue(value, row.converted, row.target);
+    for (const auto& [number, unit, target, converted] : rows) {
+        SCOPED_TRACE(testing::PrintToString(unit) + " to " + testing::PrintToString(target));
+        UnitValue value(number, unit);
+        EXPECT_EQ(value.getConvertedValue(target), converted);
+        value.convertTo(target);
+        expectValue(value, converted, target);
     }
 }
 
