@@ -40,15 +40,13 @@ TEST(CInterface, LetsACancelledThreadGo)
         return std::size_t(0);
     };
     ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(wait, nullptr));
+    const auto translate = [](void*) -> void* {
+        std::size_t length = 0;
+        pelmora_translate("Dose", nullptr, 0, &length);
+        return nullptr;
+    };
     pthread_t thread = 0;
-    ASSERT_EQ(0, pthread_create(
-                     &thread, nullptr,
-                     [](void*) -> void* {
-                         std::size_t length = 0;
-                         pelmora_translate("Dose", nullptr, 0, &length);
-                         return nullptr;
-                     },
-                     nullptr));
+    ASSERT_EQ(0, pthread_create(&thread, nullptr, translate, nullptr));
     while (!isWaiting)
         std::this_thread::yield();
     void* result = nullptr;
