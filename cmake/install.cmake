@@ -19,6 +19,6 @@ file(GENERATE
   OUTPUT ${package}/PelmoraConfig.cmake
   INPUT ${package}/PelmoraConfig.cmake.in)
 write_basic_package_version_file(${package}/PelmoraConfigVersion.cmake
-  COMPATIBILITY SameMinorVersion)
+  COMPATIBILITY SameMajorVersion)
 install(FILES ${package}/PelmoraConfig.cmake ${package}/PelmoraConfigVersion.cmake
   DESTINATION ${destination})
