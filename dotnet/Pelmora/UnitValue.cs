@@ -101,7 +101,7 @@ namespace Pelmora
             return Text(NativeMethods.pelmora_value_normalized_text, significantDigits);
         }
 
-        /// <summary>"13.13 mL/hr": with so many digits after the point; negative for up to 6
+        /// <summary>"13.12 mL/hr": with so many digits after the point; negative for up to 6
         /// significant digits.</summary>
         public string ToString(int displayDecimals)
         {

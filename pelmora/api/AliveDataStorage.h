@@ -11,6 +11,7 @@ namespace Pelmora
 class PELMORA_API AliveDataStorage
 {
 public:
+    /// Empty and false at first; what they mean is up to the program.
     GString mMasterClientId;
     GString mServerUserId;
     GString mLastPhysicalCheck;

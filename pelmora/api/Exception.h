@@ -31,8 +31,10 @@ public:
     Exception& operator=(const Exception& other) { return *this = Exception(other); }
     Exception& operator=(Exception&&) noexcept = default;
 
+    /// What the constructor was given, valid while this object lives and is not changed.
     const GString& message() const noexcept { return message_; }
     const GString& source() const noexcept { return source_; }
+    /// The name of the function that made the exception.
     const GString& targetSite() const noexcept { return targetSite_; }
     /// One call per line, the latest first; empty where the system does not tell.
     const GString& stackTrace() const noexcept { return stackTrace_; }

@@ -21,6 +21,7 @@ using Pelmora::GString;
 class PELMORA_API NoDocumentError : public std::logic_error
 {
 public:
+    /// `what` says which question it was.
     using std::logic_error::logic_error;
     ~NoDocumentError() override;
 
@@ -80,7 +81,7 @@ public:
     bool parseFromFile(const GString& xmlFileName);
     bool parseFromFile(const char* xmlFileName);
 
-    /// The first node that the XPath expression //Action/Event[@namedAttribute="tag"] selects, as
+    /// The first node that the XPath expression `//Action/Event[@namedAttribute="tag"]` selects, as
     /// XML with its tags: an Event without a namespace, directly in an Action. The arguments are
     /// put in as they are, so that a tag with a double quote makes the expression malformed; "" for
     /// that, and when nothing matches.

@@ -13,6 +13,7 @@ namespace Pelmora
 class PELMORA_API NullReferenceError : public std::logic_error
 {
 public:
+    /// `name` is that of the argument or field that was null.
     explicit NullReferenceError(const std::string& name);
     ~NullReferenceError() override;
 

@@ -28,16 +28,19 @@ namespace Pelmora
 class PELMORA_API UnitElement
 {
 public:
-    UnitTypeEnum unitType = UnitTypeEnum::UNIT_NUMBER_OF;
-    UnitPrefix prefix = UnitPrefix::NONE;
-    std::int32_t exponent = 1;
+    UnitTypeEnum unitType = UnitTypeEnum::UNIT_NUMBER_OF; ///< the kind
+    UnitPrefix prefix = UnitPrefix::NONE;                 ///< the decimal prefix
+    std::int32_t exponent = 1;                            ///< negative for a divisor
 
     /// `UNIT_NUMBER_OF`, `NONE`, 1: a dimensionless count.
     UnitElement() = default;
+    /// These three fields.
     UnitElement(UnitTypeEnum unitType_, UnitPrefix prefix_, std::int32_t exponent_);
+    /// A copy of the element, or of the native one.
     explicit UnitElement(const std::shared_ptr<UnitElement>& rhs);
     explicit UnitElement(const Native::UnitElement& ue);
 
+    /// The same three fields as a native element.
     Native::UnitElement asNative() const;
 
     /// Whether all three fields are equal; kilogram and gram are different.
@@ -49,6 +52,7 @@ public:
 class PELMORA_API Unit
 {
 public:
+    /// An array of references, none of which may be null when the unit is used.
     using Elements = std::vector<std::shared_ptr<UnitElement>>;
 
     /// Never null after construction. Copies of a unit share the array until one of them replaces
@@ -74,7 +78,8 @@ public:
     /// and keeps the array when there is none.
     bool removeElement(UnitTypeEnum unitType_);
 
-    // What the ISO form of the unit holds; see Native::Unit.
+    /// Whether the ISO form of the unit holds exactly s⁻¹, L, mol, g of body weight⁻¹, g or units:
+    /// mL/min is a volume and a rate.
     bool unitIsRate() const;
     bool unitIsVolume() const;
     bool unitIsMol() const;
@@ -96,8 +101,8 @@ public:
 class PELMORA_API UnitValue
 {
 public:
-    double value = 0.0;
-    std::shared_ptr<Unit> unit;
+    double value = 0.0;         ///< the number
+    std::shared_ptr<Unit> unit; ///< its unit, not null when the value is used
 
     /// 0.0 of a new default unit.
     UnitValue();
@@ -105,8 +110,10 @@ public:
     UnitValue(double value_, const std::shared_ptr<Unit>& unit_);
     /// A value that shares the unit of `rhs`, as a copy of the object does.
     explicit UnitValue(const std::shared_ptr<UnitValue>& rhs);
+    /// With a new unit of new elements.
     explicit UnitValue(const Native::UnitValue& u);
 
+    /// The number with the unit's native product.
     Native::UnitValue asNative() const;
 
     /// Product and quotient, reduced; see Native::UnitValue for invalid units and zero.
@@ -128,7 +135,7 @@ public:
     /// counts them.
     GString toNormalizedString(int significantDigits) const;
 
-    /// "13.13 mL/hr": with so many digits after the point; negative for up to 6 significant digits.
+    /// "13.12 mL/hr": with so many digits after the point; negative for up to 6 significant digits.
     GString ToString(int displayDecimals) const;
 };
 

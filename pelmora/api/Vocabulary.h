@@ -337,11 +337,13 @@ enum class VenousPanels : std::int32_t {
     ALL_PANELS = 65535,
 };
 
+/// All panels of both.
 constexpr VenousPanels operator|(VenousPanels a, VenousPanels b) noexcept
 {
     return static_cast<VenousPanels>(static_cast<std::int32_t>(a) | static_cast<std::int32_t>(b));
 }
 
+/// The panels that are in both.
 constexpr VenousPanels operator&(VenousPanels a, VenousPanels b) noexcept
 {
     return static_cast<VenousPanels>(static_cast<std::int32_t>(a) & static_cast<std::int32_t>(b));

@@ -15,26 +15,29 @@
 namespace Pelmora
 {
 
+/// Kind, prefix and exponent.
 template <class Archive>
 void serialize(Archive& archive, UnitElement& element)
 {
     archive(element.unitType, element.prefix, element.exponent);
 }
 
+/// The array of elements.
 template <class Archive>
 void serialize(Archive& archive, Unit& unit)
 {
     archive(unit.elements);
 }
 
+/// Number and unit.
 template <class Archive>
 void serialize(Archive& archive, UnitValue& value)
 {
     archive(value.value, value.unit);
 }
 
-/// Text in the archive that `GString::to_utf8` did not make throws what `GString::from_utf8`
-/// throws, a `const char*`.
+/// Every field, texts as UTF-8. Text in the archive that `GString::to_utf8` did not make throws
+/// what `GString::from_utf8` throws, a `const char*`.
 template <class Archive>
 void serialize(Archive& archive, ExceptionData& report)
 {

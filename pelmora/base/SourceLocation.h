@@ -7,6 +7,7 @@ namespace Pelmora::Native
 
 #if defined(__cpp_lib_source_location)
 
+/// Where a call stands in its source.
 using SourceLocation = std::source_location;
 
 #else

@@ -49,14 +49,16 @@
 
 #if defined(_WIN32) /* calling convention and wide character; Windows-only functions are at the    \
                        end */
+/* How the functions, and callbacks of the program, are called. */
 #define PELMORA_CALL __cdecl
+/* A UTF-16 unit: wchar_t on Windows, otherwise what u"..." is made of. */
 typedef wchar_t pelmora_char16;
 #else
 #define PELMORA_CALL
 #if defined(__cplusplus)
 typedef char16_t pelmora_char16;
 #else
-typedef uint_least16_t pelmora_char16; /* what u"..." is made of since C11 */
+typedef uint_least16_t pelmora_char16; /* as in C11 */
 #endif
 #endif
 
@@ -69,9 +71,11 @@ extern "C" {
 /* Changes whenever a program that was built with an earlier header would no longer work. */
 #define PELMORA_ABI 1
 
+/* What came of a call: one of the numbers below. */
 typedef int32_t pelmora_status;
+/* The numbers of a status. */
 enum {
-    PELMORA_OK = 0,
+    PELMORA_OK = 0,               /* everything was done */
     PELMORA_NULL_ARGUMENT = 1,    /* the message names the parameter */
     PELMORA_BAD_ARGUMENT = 2,     /* a value that the function does not take */
     PELMORA_BUFFER_TOO_SMALL = 3, /* `length` or `count` says how much is needed */
@@ -130,8 +134,8 @@ enum {
 /* One factor of a unit: a base unit with a prefix, raised to a power. The kg^-1 of mg/kg is
  * {PELMORA_KILO, PELMORA_UNIT_G_PT, -1}. 12 bytes, fields at 0, 4 and 8. */
 typedef struct pelmora_element {
-    int32_t prefix;
-    int32_t kind;
+    int32_t prefix;   /* PELMORA_NANO to PELMORA_GIGA */
+    int32_t kind;     /* PELMORA_UNIT_... */
     int32_t exponent; /* negative for a divisor; 0 marks an element that counts for nothing */
 } pelmora_element;
 
@@ -411,6 +415,7 @@ pelmora_status PELMORA_CALL pelmora_default_char(uint16_t* character);
 /* ---- Catalogues --------------------------------------------------------------------------------
  * One GNU ".mo" file. Several threads may search one catalogue. */
 
+/* A catalogue in memory. */
 typedef struct pelmora_catalogue pelmora_catalogue;
 
 /* Reads the file, with ".mo" appended where the name does not end so. PELMORA_NOT_FOUND when it
@@ -481,7 +486,7 @@ pelmora_status PELMORA_CALL pelmora_language_dump(char* buffer, size_t capacity,
 
 /* ---- Markup --------------------------------------------------------------------------------*/
 
-/* & > " ' < as &amp; &gt; &quot; &apos; &lt;, and back, once. */
+/* `&`, `>`, `"`, the apostrophe and `<` as `&amp; &gt; &quot; &apos; &lt;`, and back, once. */
 pelmora_status PELMORA_CALL pelmora_escape(const pelmora_char16* text, size_t text_length,
                                            pelmora_char16* buffer, size_t capacity, size_t* length);
 pelmora_status PELMORA_CALL pelmora_escape_narrow(const char* text, size_t text_length,
@@ -502,15 +507,15 @@ pelmora_status PELMORA_CALL pelmora_replace_all_narrow(const char* text, size_t 
                                                        char* buffer, size_t capacity,
                                                        size_t* length);
 
-/* <a href="target">text</a>, or the text alone for an empty target; neither is escaped. */
+/* `<a href="target">text</a>`, or the text alone for an empty target; neither is escaped. */
 pelmora_status PELMORA_CALL pelmora_make_link(const pelmora_char16* text,
                                               const pelmora_char16* target, pelmora_char16* buffer,
                                               size_t capacity, size_t* length);
 
 /* A part of a narrow text, in bytes. */
 typedef struct pelmora_field {
-    size_t offset;
-    size_t length;
+    size_t offset; /* of its first byte */
+    size_t length; /* in bytes */
 } pelmora_field;
 
 /* The fields between the separators, byte by byte; an empty text is one empty field, unless empty
@@ -533,6 +538,7 @@ pelmora_status PELMORA_CALL pelmora_log_configure(const char* file_name, const c
 /* Whether the finished log is opened in Notepad at the end of the process; only on Windows. */
 pelmora_status PELMORA_CALL pelmora_log_show_in_notepad(int show);
 
+/* The text as it is, and the end of a line. */
 pelmora_status PELMORA_CALL pelmora_log_write(const char* text);
 pelmora_status PELMORA_CALL pelmora_log_end_line(void);
 /* The text and the end of its line. */
@@ -549,6 +555,7 @@ pelmora_status PELMORA_CALL pelmora_log_double(double number);
 pelmora_status PELMORA_CALL pelmora_log_pointer(const void* address); /* may be null */
 pelmora_status PELMORA_CALL pelmora_log_bool(int value);
 
+/* The path of the log's file. */
 pelmora_status PELMORA_CALL pelmora_log_path(char* buffer, size_t capacity, size_t* length);
 
 /* The text for a Windows version record: "Windows XP Service Pack 3 (Build 2600)". */
@@ -559,6 +566,7 @@ pelmora_status PELMORA_CALL pelmora_os_description(uint32_t platform, uint32_t m
 
 /* ---- XML -----------------------------------------------------------------------------------*/
 
+/* One document, and the questions about it. */
 typedef struct pelmora_xml pelmora_xml;
 
 /* Without a document. */
@@ -610,6 +618,7 @@ pelmora_status PELMORA_CALL pelmora_download(const char* url, const char* path,
  * A private copy of a dialog resource, classic or extended, whose caption and font can be changed.
  */
 
+/* A template in memory. */
 typedef struct pelmora_dialog_template pelmora_dialog_template;
 
 /* From the bytes of a resource; PELMORA_MALFORMED when they are not a whole template. */
@@ -622,6 +631,7 @@ pelmora_status PELMORA_CALL pelmora_dialog_template_bytes(const pelmora_dialog_t
                                                           void* buffer, size_t capacity,
                                                           size_t* size);
 
+/* The caption; empty without one. */
 pelmora_status PELMORA_CALL pelmora_dialog_template_caption(const pelmora_dialog_template* dialog,
                                                             pelmora_char16* buffer, size_t capacity,
                                                             size_t* length);
@@ -655,14 +665,16 @@ pelmora_status PELMORA_CALL pelmora_dialog_template_set_size(pelmora_dialog_temp
 /* ---- Registry ----------------------------------------------------------------------------------
  * Paths, names and string values are narrow. An empty name is the key's default value. */
 
+/* How a key is opened, to be combined with |. */
 enum {
     PELMORA_OPEN_READ = 1,
     PELMORA_OPEN_WRITE = 2,
-    PELMORA_OPEN_WRITE_OR_READ = 4,
-    PELMORA_OPEN_CREATE = 8,
-    PELMORA_OPEN_ALL_ACCESS = 16
+    PELMORA_OPEN_WRITE_OR_READ = 4, /* if writing is refused, only for reading */
+    PELMORA_OPEN_CREATE = 8,        /* makes the key and its parents if they are missing */
+    PELMORA_OPEN_ALL_ACCESS = 16    /* ignored with PELMORA_OPEN_WRITE_OR_READ */
 };
 
+/* Owner of an open key. */
 typedef struct pelmora_key pelmora_key;
 
 /* A key object without an open key. */
@@ -697,6 +709,7 @@ pelmora_status PELMORA_CALL pelmora_key_read_multi_string(const pelmora_key* key
                                                           char* buffer, size_t capacity,
                                                           size_t* length);
 
+/* Write a value, in place of one of any type. */
 pelmora_status PELMORA_CALL pelmora_key_write_string(pelmora_key* key, const char* name,
                                                      const char* value);
 pelmora_status PELMORA_CALL pelmora_key_write_dword(pelmora_key* key, const char* name,
@@ -746,6 +759,7 @@ pelmora_status PELMORA_CALL pelmora_system_error_text(uint32_t code, char* buffe
  * Heights are in logical units and signed as for CreateFontA, sizes in tenths of a point. A device
  * context may be null, which is the screen's. */
 
+/* Owner of a font. */
 typedef struct pelmora_font pelmora_font;
 
 /* Owner of a font of the system's character set. One that cannot be created is a line in the error
@@ -761,9 +775,12 @@ pelmora_status PELMORA_CALL pelmora_font_handle(const pelmora_font* font, void**
 pelmora_status PELMORA_CALL pelmora_create_font_handle(const char* face, int32_t height, int bold,
                                                        int italic, void** handle);
 
+/* The character set of the ANSI code page, and whether it is another one than ANSI_CHARSET. */
 pelmora_status PELMORA_CALL pelmora_system_charset(uint8_t* charset);
 pelmora_status PELMORA_CALL pelmora_is_non_ansi_system(int* result);
+/* Whether "Small Fonts" is installed in that set. */
 pelmora_status PELMORA_CALL pelmora_has_small_fonts(int* result);
+/* Whether a font of that face is installed, in one character set or in any. */
 pelmora_status PELMORA_CALL pelmora_font_exists(const char* face, uint8_t charset, void* dc,
                                                 int* result);
 pelmora_status PELMORA_CALL pelmora_font_exists_any_charset(const char* face, void* dc,
@@ -773,6 +790,7 @@ pelmora_status PELMORA_CALL pelmora_font_exists_any_charset(const char* face, vo
  * the system does not measure it. */
 pelmora_status PELMORA_CALL pelmora_text_height(void* font, void* dc, int32_t* height);
 pelmora_status PELMORA_CALL pelmora_text_metrics(void* font, void* dc, void* metrics);
+/* The height that gives characters of that size, and the size of a height. */
 pelmora_status PELMORA_CALL pelmora_decipoints_to_height(int32_t decipoints, void* dc,
                                                          int32_t* height);
 pelmora_status PELMORA_CALL pelmora_height_to_decipoints(int32_t height, void* dc,
@@ -782,10 +800,10 @@ pelmora_status PELMORA_CALL pelmora_height_to_decipoints(int32_t height, void* d
 
 /* Screen pixels, right and bottom exclusive: a RECT. 16 bytes. */
 typedef struct pelmora_rectangle {
-    int32_t left;
-    int32_t top;
-    int32_t right;
-    int32_t bottom;
+    int32_t left;   /* its first column */
+    int32_t top;    /* its first line */
+    int32_t right;  /* the first column behind it */
+    int32_t bottom; /* the first line below it */
 } pelmora_rectangle;
 
 /* The work area of the monitor nearest to a window, null for the thread's main window, or to a
@@ -806,10 +824,10 @@ pelmora_status PELMORA_CALL pelmora_monitor_identifier(void* window, char* buffe
 
 /* A corner and a size, in logical units or in pixels of a picture. 16 bytes. */
 typedef struct pelmora_area {
-    int32_t x;
-    int32_t y;
-    int32_t width;
-    int32_t height;
+    int32_t x;      /* of the corner */
+    int32_t y;      /* of the corner */
+    int32_t width;  /* from the corner */
+    int32_t height; /* from the corner */
 } pelmora_area;
 
 /* Draw a part of a bitmap resource, or of a BITMAPINFO and its pixels in memory, which are as long
@@ -833,7 +851,9 @@ pelmora_status PELMORA_CALL pelmora_current_date_text(int long_format, char* buf
 pelmora_status PELMORA_CALL pelmora_current_time_text(int with_seconds, char* buffer,
                                                       size_t capacity, size_t* length);
 
+/* Whether a file or folder of that name exists. */
 pelmora_status PELMORA_CALL pelmora_path_exists(const char* path, int* result);
+/* Removes the read-only attribute; the log says so with `log_success`, and of a failure. */
 pelmora_status PELMORA_CALL pelmora_remove_read_only(const char* path, int log_success);
 
 /* ---- Dialogs and controls -----------------------------------------------------------------------
@@ -886,6 +906,7 @@ pelmora_status PELMORA_CALL pelmora_disable_control(void* control, int* before);
 pelmora_status PELMORA_CALL pelmora_enable_control(void* control, int enable, int* before);
 pelmora_status PELMORA_CALL pelmora_show_control(void* control, int show, int* before);
 
+/* Whether the window is the system's combo box, and whether that is a drop-down list. */
 pelmora_status PELMORA_CALL pelmora_is_combo_box(void* window, int* result);
 pelmora_status PELMORA_CALL pelmora_is_drop_down_list(void* combo_box, int* result);
 

@@ -13,13 +13,13 @@
 namespace Pelmora::Native::Formatter
 {
 
-/// Replaces the characters & > " ' < by the entities &amp; &gt; &quot; &apos; &lt;. Text that is
-/// already escaped is escaped again: `unescape(escape(s))` is s for every s.
+/// Replaces `&`, `>`, `"`, the apostrophe and `<` by the entities `&amp; &gt; &quot; &apos; &lt;`.
+/// Text that is already escaped is escaped again: `unescape(escape(s))` is s for every s.
 PELMORA_API std::string escape(std::string_view text);
 PELMORA_API WideString escape(WideView text);
 
-/// Replaces these five entities by their characters, once: "&amp;lt;" gives "&lt;". Character
-/// references such as "&#60;" and a lone "&" stay as they are.
+/// Replaces these five entities by their characters, once: `&amp;lt;` gives `&lt;`. Character
+/// references such as `&#60;` and a lone `&` stay as they are.
 PELMORA_API std::string unescape(std::string_view text);
 PELMORA_API WideString unescape(WideView text);
 

@@ -15,7 +15,9 @@ namespace Pelmora::Native
 class AnsiText
 {
 public:
+    /// The empty text.
     AnsiText() = default;
+    /// From any text.
     template <class Text>
     requires std::convertible_to<const Text&, std::string> ||
         std::convertible_to<const Text&, std::string_view>

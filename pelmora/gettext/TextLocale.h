@@ -23,6 +23,7 @@ using Translator = GString (*)(std::string msgid);
 class PELMORA_API TextLocale
 {
 public:
+    /// Without a language and a translator.
     TextLocale() noexcept = default;
     TextLocale(const TextLocale&) = delete;
     TextLocale& operator=(const TextLocale&) = delete;
@@ -51,13 +52,16 @@ public:
     /// before a '|'. Null gives an empty text.
     GString tr(const char* text) const;
 
+    /// Whether `init` has set a language.
     bool initialised() const noexcept { return initialised_; }
     /// The argument of the last `init`.
     const std::string& path() const noexcept { return path_; }
+    /// The language's code, "de"; empty before `init`.
     const std::string& language() const noexcept { return language_; }
 
     /// The Windows code page of the language: 932, 949 and 936 for "ja", "ko" and "zh", or 1252.
     unsigned int code_page() const noexcept;
+    /// Whether that page is another one than 1252.
     bool uses_non_latin_code_page() const noexcept;
     /// The name that this code page has in markup and mail, such as "iso-8859-1".
     const char* charset() const noexcept;

@@ -38,7 +38,9 @@ class PELMORA_API GString
 public:
     using const_iterator = WideString::const_iterator;
 
+    /// The empty text.
     GString() noexcept = default;
+    /// From UTF-16: a string, a view, or a NUL-terminated text such as a literal.
     GString(const WideString& text) : text_(text) {} // NOLINT(google-explicit-constructor)
     GString(WideString&& text) noexcept
         : text_(std::move(text)) {}         // NOLINT(google-explicit-constructor)
@@ -48,6 +50,7 @@ public:
         : GString(std::basic_string_view<Unit>(text))
     {
     }
+    /// From a view of the other type of UTF-16 units.
     template <Utf16Unit Unit>
     requires(!std::same_as<Unit, WideChar>) explicit GString(std::basic_string_view<Unit> text)
         : text_(text.begin(), text.end())
@@ -126,8 +129,10 @@ public:
     /// second, if there is one, in the high eight.
     static char16_t default_char() noexcept;
 
+    /// The UTF-16 units, valid while this object lives and is not changed.
     const WideString& text() const noexcept { return text_; }
     operator WideView() const noexcept { return text_; } // NOLINT(google-explicit-constructor)
+    /// The number of UTF-16 units.
     std::size_t size() const noexcept { return text_.size(); }
     bool empty() const noexcept { return text_.empty(); }
     const_iterator begin() const noexcept { return text_.begin(); }
@@ -135,6 +140,7 @@ public:
     /// Requires: index < size().
     WideChar operator[](std::size_t index) const noexcept { return text_[index]; }
 
+    /// This text, then the other.
     GString& operator+=(const GString& other)
     {
         text_ += other.text_;

@@ -16,6 +16,7 @@ namespace Pelmora::Native
 class PELMORA_API DialogTemplate : public DialogTemplateBytes
 {
 public:
+    /// Without a template, with a copy of bytes, or with those of another object.
     DialogTemplate() = default;
     using DialogTemplateBytes::DialogTemplateBytes;
     explicit DialogTemplate(DialogTemplateBytes bytes) noexcept

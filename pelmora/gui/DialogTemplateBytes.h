@@ -17,12 +17,13 @@ struct DialogParts;
 
 /// In dialog units or in pixels.
 struct DialogPoint {
-    int x;
-    int y;
+    int x; ///< to the right
+    int y; ///< downwards
 };
+/// In dialog units or in pixels.
 struct DialogSize {
-    int width;
-    int height;
+    int width;  ///< to the right
+    int height; ///< downwards
 };
 
 /// A private copy of a dialog template whose caption and font can be changed before a dialog is
@@ -91,6 +92,7 @@ public:
     void setSize(DialogSize size);
 
 protected:
+    /// Becomes a copy of these bytes; of none, without a template.
     void assign(std::span<const std::byte> bytes);
 
 private:

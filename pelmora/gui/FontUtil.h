@@ -13,6 +13,7 @@ namespace Pelmora::Native
 class PELMORA_API Font
 {
 public:
+    /// Without a font.
     Font() noexcept = default;
     Font(Font&& other) noexcept : handle_(other.detach()) {}
     Font& operator=(Font&& other) noexcept;

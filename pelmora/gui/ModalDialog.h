@@ -20,6 +20,7 @@ namespace Pelmora::Native
 class PELMORA_API ModalDialog
 {
 public:
+    /// Not running.
     ModalDialog() = default;
     ModalDialog(const ModalDialog&) = delete;
     ModalDialog& operator=(const ModalDialog&) = delete;

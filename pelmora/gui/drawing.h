@@ -16,10 +16,10 @@ namespace Pelmora::Native
 /// picture. The latter are counted from its lower left corner, or from the upper left one of a
 /// picture that is stored top-down, with a negative height.
 struct Area {
-    int x;
-    int y;
-    int width;
-    int height;
+    int x;      ///< of the corner
+    int y;      ///< of the corner
+    int width;  ///< from the corner
+    int height; ///< from the corner
 };
 
 /// Draws the part `source` of a bitmap resource (type RT_BITMAP) of a module, null for the

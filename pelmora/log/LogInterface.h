@@ -9,6 +9,7 @@ namespace Pelmora::Native
 class PELMORA_API LogInterface
 {
 public:
+    /// A log belongs to whoever makes it.
     LogInterface() = default;
     LogInterface(const LogInterface&) = delete;
     LogInterface& operator=(const LogInterface&) = delete;
@@ -17,7 +18,7 @@ public:
     /// Whether the log can be used; always true.
     virtual bool is_ok();
 
-    /// Requires: `text` is not null.
+    /// Writes narrow text as it is. Requires: `text` is not null.
     virtual void write(const char* text) = 0;
 };
 

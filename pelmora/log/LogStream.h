@@ -41,8 +41,10 @@ public:
     /// The open file, or null.
     virtual std::FILE* file();
 
+    /// The path of the file, also of one that could not be opened.
     const std::string& path() const noexcept { return path_; }
 
+    /// Writes texts as they are and numbers in decimal.
     LogStream& operator<<(const char* text); ///< Requires: not null
     LogStream& operator<<(const std::string& text);
     LogStream& operator<<(const GString& text); ///< in the ANSI code page
@@ -58,6 +60,7 @@ public:
     LogStream& operator<<(double number);       ///< as "%f", also for float
     LogStream& operator<<(const void* address); ///< "0x1f"
     LogStream& operator<<(bool value);          ///< "true" or "false"
+    /// Calls it: `log << endl`.
     LogStream& operator<<(LogStream& (*manipulator)(LogStream&)) { return manipulator(*this); }
 
     /// 75 dashes and a line feed.
@@ -100,6 +103,7 @@ struct LogSettings {
     bool show_in_notepad = false; ///< see `set_show_in_notepad`
 };
 
+/// The settings of the next log that is made; the same object every time.
 PELMORA_API LogSettings& log_settings();
 
 /// Whether the finished log is opened in Notepad at the end of the process; only on Windows.

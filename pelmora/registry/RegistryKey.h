@@ -25,6 +25,7 @@ enum class OpenMode : std::uint32_t {
     AllAccess = 16,  ///< every access right; ignored with `WriteOrRead`
 };
 
+/// Both modes together.
 constexpr OpenMode operator|(OpenMode a, OpenMode b) noexcept
 {
     return static_cast<OpenMode>(static_cast<std::uint32_t>(a) | static_cast<std::uint32_t>(b));
@@ -38,8 +39,10 @@ public:
     using value_type = std::string;
     using difference_type = std::ptrdiff_t;
 
+    /// At the value with this number in an open key.
     ValueNameIterator(HKEY key, std::uint32_t index) noexcept : key_(key), index_(index) {}
 
+    /// To the next value.
     ValueNameIterator& operator++() noexcept;
     ValueNameIterator operator++(int);
 
@@ -47,6 +50,7 @@ public:
     /// page are replaced, so such a value cannot be read by this name. A name of more than 255
     /// bytes is "" or cut, as the system leaves it. Read from the system on first use, then kept.
     std::string operator*() const;
+    /// The same as wide text.
     GString wideName() const { return GString(**this); }
 
     /// Whether both stand at the same value.
@@ -78,6 +82,7 @@ private:
 class PELMORA_API RegistryKey
 {
 public:
+    /// Without an open key.
     RegistryKey() noexcept;
     RegistryKey(RegistryKey&& other) noexcept;
     RegistryKey& operator=(RegistryKey&& other) noexcept;
@@ -140,6 +145,7 @@ public:
     /// ERROR_DATATYPE_MISMATCH for a value of another type.
     std::uint32_t lastStatus() const noexcept;
 
+    /// At the first value.
     ValueNameIterator valueNamesBegin() const;
     /// Past the last value that the key has now. Equal to `valueNamesBegin` without a key and when
     /// the system does not tell the number of values.

@@ -23,7 +23,9 @@ class ElementList
 public:
     using value_type = UnitElement;
 
+    /// The empty list.
     ElementList() noexcept {} // NOLINT(modernize-use-equals-default): `few_` is not initialised
+    /// Copies of these elements, in their order.
     ElementList(std::initializer_list<UnitElement> elements)
         : ElementList(std::span(elements.begin(), elements.size()))
     {
@@ -63,10 +65,11 @@ public:
     const UnitElement* begin() const noexcept { return many_ == nullptr ? few() : many_->data(); }
     const UnitElement* end() const noexcept { return begin() + size(); }
 
-    /// Requires: index < size().
+    /// The element at a position. Requires: index < size().
     UnitElement& operator[](std::size_t index) noexcept { return begin()[index]; }
     const UnitElement& operator[](std::size_t index) const noexcept { return begin()[index]; }
 
+    /// Adds an element at the end; it may be one of this list.
     void push_back(const UnitElement& element)
     {
         if (many_ == nullptr && fewSize_ < mostFew) {
@@ -79,7 +82,7 @@ public:
         many_->push_back(kept);
     }
 
-    /// Requires: `elements` are not of this list.
+    /// Adds elements at the end. Requires: they are not of this list.
     void append(std::span<const UnitElement> elements)
     {
         if (many_ == nullptr && elements.size() <= mostFew - fewSize_)
@@ -97,6 +100,7 @@ public:
             many_->erase(many_->begin() + static_cast<std::ptrdiff_t>(count), many_->end());
     }
 
+    /// Whether both have equal elements in the same order.
     friend bool operator==(const ElementList& a, const ElementList& b) noexcept
     {
         return std::equal(a.begin(), a.end(), b.begin(), b.end());

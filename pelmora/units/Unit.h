@@ -17,9 +17,11 @@ struct ScaledUnit;
 /// exponents and negated exponents wrap around at 32 bits. Several threads may read a unit at once,
 /// as long as none writes it.
 struct PELMORA_API Unit {
-    ElementList elements;
+    ElementList elements; ///< in the order in which they were multiplied
 
+    /// The dimensionless unit.
     Unit() noexcept = default;
+    /// The unit of this one element.
     Unit(const UnitElement& element) // NOLINT(google-explicit-constructor): an element is a unit
         : elements{element}
     {
@@ -93,9 +95,10 @@ struct PELMORA_API Unit {
 
 /// A value in the original unit, multiplied by `factor`, is the value in `unit`.
 struct ScaledUnit {
-    double factor;
-    Unit unit;
+    double factor; ///< for values
+    Unit unit;     ///< of the value times the factor
 
+    /// These two.
     ScaledUnit(double scale, Unit unitOfScaled) noexcept
         : factor(scale), unit(std::move(unitOfScaled))
     {

@@ -16,10 +16,11 @@ struct ScaledElement;
 /// the kg⁻¹ of mg/kg. A plain value. Any field may hold any number, and every operation is defined
 /// for it. Several threads may read an element at once, as long as none writes it.
 struct PELMORA_API UnitElement {
-    UnitPrefix prefix;
-    UnitTypeEnum unitType;
+    UnitPrefix prefix;     ///< the decimal prefix
+    UnitTypeEnum unitType; ///< the kind
     std::int32_t exponent; ///< negative for a divisor; 0 marks an element that counts for nothing
 
+    /// Mind the order: kind, prefix, exponent.
     constexpr UnitElement(UnitTypeEnum kind, UnitPrefix decimalPrefix, std::int32_t power) noexcept
         : prefix(decimalPrefix), unitType(kind), exponent(power)
     {
@@ -59,8 +60,8 @@ struct PELMORA_API UnitElement {
 
 /// A value in the original element, multiplied by `factor`, is the value in `element`.
 struct ScaledElement {
-    double factor;
-    UnitElement element;
+    double factor;       ///< for values
+    UnitElement element; ///< of the value times the factor
 };
 
 } // namespace Pelmora::Native

@@ -10,9 +10,10 @@ namespace Pelmora::Native
 /// number without meaning, so ask `Unit::compatibleWith` first where that can happen. Several
 /// threads may read a value at once, as long as none writes it.
 struct PELMORA_API UnitValue {
-    double value;
-    Unit unit;
+    double value; ///< the number
+    Unit unit;    ///< its unit
 
+    /// A number in a unit.
     UnitValue(double number, const Unit& unitOfNumber) : value(number), unit(unitOfNumber) {}
     UnitValue(const UnitValue&) = default;
     UnitValue(UnitValue&&) noexcept = default;

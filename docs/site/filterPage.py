@@ -1,0 +1,32 @@
+"""filterPage.py PAGE: prints a page in Markdown as Doxygen wants it.
+
+Links to what is not a page lose their target, a graph for GitHub becomes one for Graphviz, and the
+words after a block's language, which are for the tests, go.
+"""
+import os
+import re
+import sys
+
+path = os.path.relpath(sys.argv[1])
+text = open(path, encoding="utf-8").read()
+
+
+def link(match):
+    words, target = match.groups()
+    if re.match(r"[a-z]+:|#|.*\.(md|png)(#|$)", target):
+        return match[0]
+    return words if "`" in words else f"`{words}`"
+
+
+def graph(match):
+    nodes = match[1].replace("graph TD", "").replace("-->", "->")
+    nodes = re.sub(r"(\w+)\[(\".*?\")\]", r"\1 [label=\2]", nodes)
+    return ("@dot\ndigraph {\nnode [shape=box style=rounded fontname=\"sans-serif\"]\n" + nodes
+            + "\n}\n@enddot\n")
+
+
+text = re.sub(r"(?<!!)\[([^][]*)\]\(([^()\s]*)\)", link, text)
+text = re.sub(r"^```mermaid\n(.*?)^```\n", graph, text, flags=re.M | re.S)
+text = re.sub(r"^```(\w+) .*$", r"```\1", text, flags=re.M)
+text = re.sub(r"<!--.*?-->\n?", "", text)
+print(text)
