@@ -47,7 +47,7 @@ def from_c(text):
         if section:
             return open_group(section[1], lines[1:])
         if lines[0].startswith("Pelmora for C"):
-            lines = ["@file"] + lines
+            lines = ["@file", "The C interface.", "", "@defgroup c The C interface"] + lines
         return "\n".join(f"/// {line}" for line in lines) + after
 
     open_groups = []
@@ -56,7 +56,7 @@ def from_c(text):
         name = "c_" + re.sub(r"\W+", "_", title).lower()
         text = "/// @}\n\n" if open_groups else ""
         open_groups.append(name)
-        text += f"/// @defgroup {name} {title}\n///\n"
+        text += f"/// @defgroup {name} {title}\n/// @ingroup c\n///\n"
         return text + "".join(f"/// {line}\n" for line in lines) + "/// @{\n"
 
     text = re.sub(r"([^\n]*?)[ \t]*(/\*.*?\*/)(\n?)", replace, text, flags=re.S)
@@ -95,7 +95,7 @@ def with_comments(lines):
                 own = special(stripped)
                 if own and (not comment or comment[-1] is None):
                     print(own)
-                elif comment and comment[-1] is None and "///<" not in line:
+                elif comment and comment[-1] is None:
                     for part in comment[:-1]:
                         print(part)
         print(line)

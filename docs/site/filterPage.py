@@ -25,8 +25,15 @@ def graph(match):
             + "\n}\n@enddot\n")
 
 
+def picture(match):
+    words, target = match.groups()
+    return f"![{' '.join(words.split())}]({os.path.basename(target)})"
+
+
+text = re.sub(r"!\[([^][]*)\]\(([^()\s]*)\)", picture, text)
 text = re.sub(r"(?<!!)\[([^][]*)\]\(([^()\s]*)\)", link, text)
 text = re.sub(r"^```mermaid\n(.*?)^```\n", graph, text, flags=re.M | re.S)
 text = re.sub(r"^```(\w+) .*$", r"```\1", text, flags=re.M)
+text = text.replace("```csharp\n", "```\n") # whose names would lead to pages that there are not
 text = re.sub(r"<!--.*?-->\n?", "", text)
-print(text)
+print(text.replace("# Pelmora", "# %Pelmora"))

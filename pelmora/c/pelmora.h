@@ -507,7 +507,7 @@ pelmora_status PELMORA_CALL pelmora_replace_all_narrow(const char* text, size_t 
                                                        char* buffer, size_t capacity,
                                                        size_t* length);
 
-/* `<a href="target">text</a>`, or the text alone for an empty target; neither is escaped. */
+/* The markup of a link to `target`, or the text alone for an empty one; neither is escaped. */
 pelmora_status PELMORA_CALL pelmora_make_link(const pelmora_char16* text,
                                               const pelmora_char16* target, pelmora_char16* buffer,
                                               size_t capacity, size_t* length);
