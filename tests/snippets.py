@@ -15,7 +15,14 @@ import sys
 
 BLOCK = re.compile(r"^```(cpp|c|csharp)( windows)?\n(.*?)^```$(?:\n\nprints\n\n```text\n(.*?)^```$)?",
                    re.M | re.S)
-CPP_HEAD = "#include <pelmora/pelmora.h>\n#include <iostream>\n#include <string_view>\n"
+CPP_HEAD = """#include <pelmora/pelmora.h>
+#include <iostream>
+#include <string_view>
+#if defined(__GNUC__) // A fragment ends before it uses what it made.
+#pragma GCC diagnostic ignored "-Wunused-variable"
+#pragma GCC diagnostic ignored "-Wunused-but-set-variable"
+#endif
+"""
 CPP_MAIN = """
 int main(int, char** arguments)
 {{
