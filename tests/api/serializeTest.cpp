@@ -25,15 +25,11 @@ TEST(Serialize, UnitsThatShareStillShareAfterARoundTrip)
     other.addElement(std::make_shared<UnitElement>(UnitTypeEnum::UNIT_HR, UnitPrefix::NONE, -1));
 
     std::stringstream stream;
-    {
-        cereal::JSONOutputArchive output(stream);
-        output(dose, other, value);
-    }
+    cereal::JSONOutputArchive{stream}(dose, other, value);
     Unit readDose;
     Unit readOther;
     UnitValue readValue;
-    cereal::JSONInputArchive input(stream);
-    input(readDose, readOther, readValue);
+    cereal::JSONInputArchive{stream}(readDose, readOther, readValue);
 
     EXPECT_EQ(readValue.ToString(1), u"2.5 mg");
     EXPECT_EQ(readOther.ToString(), u"mg/hr");
@@ -49,13 +45,9 @@ TEST(Serialize, AReportComesBackWhole)
     Report report(u"no \u00E9lan", u"ward", u"trace", u"site", Report::prio_enum::PRIO_NOTE,
                   u"parameters \xD83D\xDE00", Report::type_enum::TYPE_DEBUGMESSAGE, u"log");
     std::stringstream stream;
-    {
-        cereal::JSONOutputArchive output(stream);
-        output(report);
-    }
+    cereal::JSONOutputArchive{stream}(report);
     Report read;
-    cereal::JSONInputArchive input(stream);
-    input(read);
+    cereal::JSONInputArchive{stream}(read);
     EXPECT_EQ(read.mMessage + read.mSource + read.mStackTrace + read.mTargetSite,
               u"no \u00E9lanwardtracesite");
     EXPECT_EQ(read.mParameters + read.mDestination, u"parameters \xD83D\xDE00log");
