@@ -61,8 +61,14 @@ TEST(Bodies, EndAsTheServerSays)
         {chunked + "-5\r\nx", false},
     };
     const std::string url = std::string("http://127.0.0.1:") + std::getenv("PELMORA_HTTP_PORT");
+    const auto descriptors = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    };
+    EXPECT_TRUE(download(url + "/text")); // the libraries keep what they open first
+    const auto before = descriptors();
     for (const auto& [response, whole] : rows)
         EXPECT_EQ(download(url + "/raw?" + response + "#"), whole) << response;
+    EXPECT_EQ(descriptors(), before);
 }
 
 TEST(Files, WithoutRoomForAllAreDeleted)

@@ -62,6 +62,7 @@ TEST(HTTPDownloader, BodiesAndFailures)
         {ok + "Content-Length: 5\r\n\r\n12345", "12345"},
         {ok + "Content-Length: 6\r\n\r\n12345", failed},
         {ok + "Content-Length: -5\r\n\r\n12345", failed},
+        {ok + "Content-Length: 5x\r\n\r\n12345", failed},
         {ok + "Content-Length: 99999999999999999999999\r\n\r\n12345", failed},
         {ok + "Content-Length: 9000000000000000000\r\n\r\n12345", failed},
         {"/raw?no HTTP at all\r\n\r\n#", failed},

@@ -23,6 +23,10 @@ TEST(Namespaces, AnElementTakenOutKeepsItsPrefixes)
         u"<Action xmlns:p='urn:n?a&amp;b'><Event id='x' p:b='c'><p:d/></Event></Action>"));
     EXPECT_TRUE(parser.parseFromString(parser.getElementWithAttributeValue(u"id", u"x")));
     EXPECT_EQ(parser.getAttribute(u"p:b"), u"c");
+    ASSERT_TRUE(parser.parseFromString(u"<Action><Event id='\u65E5'> y</Event></Action>"));
+    EXPECT_EQ(parser.getElementWithAttributeValue(u"id", u"\u65E5"),
+              u"<Event id=\"\u65E5\"> y</Event>");
+    EXPECT_EQ(parser.getElementWithAttributeValue(u"id", u"\u65E5\"]/text()|//a[@b=\""), u" y");
 }
 
 TEST(Limits, OfDepthAndOfAttributes)

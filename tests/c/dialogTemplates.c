@@ -20,6 +20,8 @@ void checkDialogTemplates(void)
     memset(narrow, 'x', 300);
     OK(pelmora_text_from_narrow(narrow, 300, 1252, WIDE));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_dialog_template_set_caption(dialog, wide));
+    wide[258] = 0; /* is cut to 255 */
+    OK(pelmora_dialog_template_set_caption(dialog, wide));
     GIVES(isNarrow("MS") && whole == 8, pelmora_dialog_template_font(dialog, &whole, NARROW));
     OK(pelmora_dialog_template_set_font_size(dialog, 9));
     OK(pelmora_dialog_template_set_font(dialog, "Tahoma", 10));

@@ -1,6 +1,7 @@
 #include "pelmora/c/pelmora.h"
 #include "pelmora/units/unitText.h"
 
+#include "tests/TemporaryFolder.h"
 #include "tests/units/sampleUnits.h"
 
 #include <bit>
@@ -173,17 +174,28 @@ TEST(CInterface, EachThreadHasItsOwnLastError)
     EXPECT_STREQ("", pelmora_last_error());
 }
 
+TEST(CInterface, AppendsToTheLogOfAnEarlierProcessWhenTold)
+{
+    const auto log = std::filesystem::temp_directory_path() / "pelmora-c-appended.txt";
+    TemporaryFolder::write(log, "earlier\n");
+    pelmora_log_configure("pelmora-c-appended.txt", nullptr, 1);
+    pelmora_log_line("later");
+    EXPECT_EQ(TemporaryFolder::read(log).find("earlier\n"), 0U);
+}
+
 TEST(CInterface, CutsLongMessagesBetweenCharacters)
 {
     using Text = std::basic_string<WideChar>;
-    for (const std::size_t shift : {0U, 1U, 2U}) {
-        const Text text = Text(shift, u'x') + Text(600, u'\u4E00'); // of three bytes
+    for (std::size_t size = 300; size < 900; ++size) {
+        const Text text = Text(size % 3, u'x') + Text(size / 3, u'\u4E00'); // of three bytes
         pelmora_xml* xml = nullptr;
         ASSERT_EQ(PELMORA_OK, pelmora_xml_create(&xml));
         EXPECT_EQ(PELMORA_SYSTEM, pelmora_xml_parse_file(xml, text.c_str()));
         const std::string message = pelmora_last_error();
         pelmora_xml_destroy(xml);
         EXPECT_LE(message.size(), 511U);
+        if (size < 600)
+            continue; // other text is cut, or none
         EXPECT_GT(message.size(), 508U);
         EXPECT_EQ(0, (message.size() - message.find("\xE4")) % 3);
     }

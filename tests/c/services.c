@@ -27,6 +27,8 @@ static size_t PELMORA_CALL translateToLong(const char* msgid, pelmora_char16* bu
 {
     const size_t needed = *(const size_t*)context;
     size_t i;
+    if (strcmp(msgid, "endless") == 0)
+        return capacity;
     if (strcmp(msgid, "long") != 0)
         return 0;
     for (i = 0; i < needed && needed < capacity; ++i)
@@ -49,6 +51,7 @@ static void language(const char* folder)
     OK(pelmora_language_set_translator(translateToLong, &needed));
     GIVES(length == needed && wide[needed - 1] == 'x', pelmora_translate("long", WIDE));
     GIVES(isWide("short"), pelmora_translate("short", WIDE));
+    GIVES(isWide("endless"), pelmora_translate("endless", WIDE));
     OK(pelmora_language_set_log_missing(1));
     OK(pelmora_translate("reported", WIDE));
     OK(pelmora_language_set_log_missing(0));

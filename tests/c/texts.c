@@ -24,6 +24,7 @@ static void texts(void)
     FAILS(PELMORA_NOT_FOUND, pelmora_text_to_narrow(w("caf\xE9"), NUL, 64999, NARROW));
     GIVES(isWide("caf\xE9"), pelmora_text_from_utf8("caf\xC3\xA9", NUL, WIDE));
     FAILS(PELMORA_MALFORMED, pelmora_text_from_utf8("\xF0\x9F\x92\x89", NUL, WIDE));
+    FAILS(PELMORA_OUT_OF_MEMORY, pelmora_text_from_utf8("", NUL - 1, WIDE));
     GIVES(isNarrow("caf\xC3\xA9"), pelmora_text_to_utf8(w("caf\xE9"), NUL, NARROW));
     GIVES(isWide("dose"), pelmora_text_to_lower(w("Dose"), NUL, WIDE));
     GIVES(isWide("DOSE"), pelmora_text_to_upper(w("Dose"), NUL, WIDE));

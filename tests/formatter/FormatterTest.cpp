@@ -32,6 +32,7 @@ TEST(Formatter, UnescapeUndoesEscape)
         EXPECT_EQ(escape(wide(plain)), wide(escaped));
         EXPECT_EQ(unescape(wide(escaped)), wide(plain));
     }
+    EXPECT_EQ(unescape(std::string_view("&lt;", 3)), "&lt");
     EXPECT_EQ(unescape("&amp;lt; &#60; & &nbsp; &LT; &amp"), "&lt; &#60; & &nbsp; &LT; &amp");
 }
 

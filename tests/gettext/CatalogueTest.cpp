@@ -65,12 +65,16 @@ TEST(Catalogue, SearchGoesOnAtTheStartOfTheHashTable)
 {
     // "c" belongs into the last of five slots. Since "x" has taken it, it is one further.
     const std::uint32_t numbers[] = {0x950412de, 0,  2, 28, 44, 5,  60,     // header
-                                     1,          80, 1, 82, 1,  84, 1,  86, // "c", "x", "C", "X"
+                                     1,          86, 1, 80, 1,  82, 1,  84, // "c", "x", "C", "X"
                                      1,          0,  0, 0,  2};
-    const std::string bytes(reinterpret_cast<const char*>(numbers), sizeof numbers);
+    std::string bytes(reinterpret_cast<const char*>(numbers), sizeof numbers);
+    bytes.append("x\0C\0X\0c", 8);
     Catalogue catalogue;
-    ASSERT_TRUE(load(catalogue, bytes + std::string("c\0x\0C\0X", 8)));
+    ASSERT_TRUE(load(catalogue, bytes));
     EXPECT_EQ(catalogue.lookup("c"), "C");
+    bytes.pop_back(); // its NUL
+    ASSERT_TRUE(load(catalogue, bytes));
+    EXPECT_EQ(catalogue.lookup("c"), "");
 }
 
 TEST(Catalogue, PoTextHasEveryEntryEscaped)
@@ -99,6 +103,12 @@ TEST(Catalogue, OtherFilesAreRefusedAndLeaveItEmpty)
     EXPECT_FALSE(catalogue.load(CATALOGUES "no such file"));
     EXPECT_FALSE(catalogue.load("."));
     EXPECT_EQ(catalogue.to_po(), "");
+    const TemporaryFolder folder;
+    TemporaryFolder::write(folder.path(".mo.mo"), good);
+    const auto previous = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path(""));
+    EXPECT_TRUE(catalogue.load(".mo")); // a name, not an ending
+    std::filesystem::current_path(previous);
 }
 
 TEST(Catalogue, HostileFilesHarmNothing)

@@ -29,6 +29,7 @@ TEST(Format, ConversionsAreThoseOfC)
          u"4294967295 ff -1 1 1"},
         {GString::format(u"%+05d|%-5d|%#x|%08.3f|%.*f", 42, 42, 255, 3.14159, 1, 2.25),
          u"+0042|42   |0xff|0003.142|2.2"},
+        {GString::format(u"%.*d %#g", -1, 5, 0.0001), u"5 0.000100000"},
         {GString::format(u"%e %.3g %G", 1234.5, 1234.5, 1e-10), u"1.234500e+03 1.23e+03 1E-10"},
         // What the runtimes' own printf functions make different things of.
         {GString::format(u"%+ u|% x|%#u|%#.o|%#.x|%.d", 42U, 42, 42, 0, 0, 0), u"42|2a|42|0||"},

@@ -77,6 +77,7 @@ TEST(FontUtil, NothingLeaks)
     }
     Font other(std::move(font));
     font = std::move(other);
+    EXPECT_TRUE(font.attach(font.get()));
     EXPECT_EQ(GetObjectType(font.get()), DWORD(OBJ_FONT));
 }
 

@@ -47,6 +47,7 @@ TEST(DibLayout, PixelsFollowHeaderAndTable)
         {{.width = 0}, 40, 0},
         {{.headerSize = 124}, 124, 320},
         {{.width = 1, .height = 1, .bitCount = 16, .compression = 3}, 40, 16}, // with its masks
+        {{.width = 1, .height = 1, .bitCount = 16, .compression = 6}, 40, 16},
         {{.bitCount = 4, .compression = 2, .imageSize = 33}, 104, 33},
     };
     for (const auto& [fields, offset, pixelBytes] : rows) {

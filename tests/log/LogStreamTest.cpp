@@ -81,6 +81,7 @@ TEST_F(LogStreamDeathTest, EveryItemOutlivesAProcessThatEndsAtOnce)
                   << 4000000000U << ' ' << -3L << ' ' << 4UL << ' ' << 5LL << ' ' << 2.5F << ' '
                   << -0.125 << ' ' << reinterpret_cast<const void*>(0x1F) << ' ' << true << ' '
                   << false << ' ' << 1e300 << endl;
+        std::fputs("file ", get_log().file());
         get_log().write("written");
         get_log() << reinterpret_cast<const void*>(0x123456789ABCDEF0);
         std::_Exit(0);
@@ -88,7 +89,7 @@ TEST_F(LogStreamDeathTest, EveryItemOutlivesAProcessThatEndsAtOnce)
     EXPECT_EQ(written(),
               "HEADER\ntext string \xE9 c -1 65535 -2 4000000000 -3 4 5 2.500000 -0.125000 "
               "0x1f true false " +
-                  std::to_string(1e300) + "\nwritten0x123456789abcdef0");
+                  std::to_string(1e300) + "\nfile written0x123456789abcdef0");
 }
 
 bool logsLate = false;

@@ -103,6 +103,7 @@ TEST(RegistryFailures, AHandleIsClosedOnceAndAChangingValueIsNotRead)
         EXPECT_EQ(second.lastError(), "The value: 'changes' has type: << 4, type expected:1");
         first.open(HKEY_CURRENT_USER, "path", OpenMode::Read); // NOLINT: as a new one
         first = std::move(second);
+        EXPECT_EQ(first.lastStatus(), DWORD(ERROR_DATATYPE_MISMATCH));
         EXPECT_EQ(closed, 1);
     }
     EXPECT_EQ(closed, 2);

@@ -132,6 +132,7 @@ TEST(Unit, ClassesNeedTheExactExponentInTheIsoForm)
         {unitOf({{UNIT_MOL, MICRO, 1}, {UNIT_L, NONE, -1}}), true, 0, "M"},
         {unitOf({{UNIT_U, NONE, 1}, perHr}), true, 3600, "RU"},
         {unitOf({{UNIT_IU, NONE, 1}, perMin, {UNIT_S, KILO, -1}}), true, 1, "R"},
+        {unitOf({perHr, perMin}), true, 60, "R"},
         {unitOf({{UNIT_HR, NONE, -2}}), true, 0, ""},
         {unitOf({mg, {UNIT_L, NONE, 0}}), false, 0, "W"},
         {unitOf({count}), false, 0, ""},
@@ -158,6 +159,8 @@ TEST(Unit, EditsKeepTheOrder)
     unit.removeUnitType(UNIT_MOL);
     EXPECT_EQ(unit, unitOf({mg, mL, mg}));
     unit.removeUnitType(UNIT_G);
+    Unit& same = unit;
+    unit = std::move(same);
     EXPECT_EQ(unit, unitOf({mL}));
     EXPECT_EQ(unitOf({{UNIT_S, NONE, lowest}, mg}).inverted(),
               unitOf({{UNIT_S, NONE, lowest}, {UNIT_G, MILLI, -1}}));

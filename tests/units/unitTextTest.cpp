@@ -67,13 +67,15 @@ TEST(UnitText, ValuesHaveTheDigitsAskedFor)
         {1.0 / 3, unitOf({mg}), 3, u"0.333 mg"},
         {0.125, unitOf({count}), 2, u"0.12"},
         {1e21, unitOf({mg}), -5, u"1e+21 mg"},
-        {-std::nan(""), Unit(), 1, u"-nan"},
+        {-std::nan(""), Unit(), 2000, u"-nan"},
     };
     for (const auto& [value, unit, precision, text] : rows)
         EXPECT_EQ(UnitValue(value, unit).toString(precision), text);
     // Longer than any buffer for everyday numbers.
     const GString longest = UnitValue(-std::numeric_limits<double>::max(), Unit()).toString(400);
     EXPECT_EQ(longest.size(), 1U + 309 + 1 + 400);
+    const std::string smallest = UnitValue(5e-324, Unit()).toString(1080).to_narrow();
+    EXPECT_EQ(smallest.find_last_not_of('0'), 1U + 1074); // the last digit it has
 }
 
 TEST(UnitText, NormalisedValuesAreFilledUpToTheirDigits)
