@@ -36,4 +36,5 @@ text = re.sub(r"^```mermaid\n(.*?)^```\n", graph, text, flags=re.M | re.S)
 text = re.sub(r"^```(\w+) .*$", r"```\1", text, flags=re.M)
 text = text.replace("```csharp\n", "```\n") # whose names would lead to pages that there are not
 text = re.sub(r"<!--.*?-->\n?", "", text)
+text = re.sub(r"(`[^`\n]*)%(\w[^`\n]*`)", r"\1%%\2", text)
 print(text.replace("# Pelmora", "# %Pelmora"))

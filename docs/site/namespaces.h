@@ -2,7 +2,8 @@
 /// The public objects of the simulators: units, vocabulary, error report, initialiser.
 
 /// @namespace Pelmora::Native
-/// The native values and functions beneath the public objects: units, texts, log, registry, windows.
+/// The native values and functions beneath the public objects: units, texts, log, registry,
+/// windows.
 
 /// @namespace Pelmora::Native::Formatter
 /// Markup: escaping, its reverse, replacing.
