@@ -29,6 +29,7 @@ TEST(Trust, ACertificateIsForItsHostOnly)
     const std::string secure = "https://localhost:" + port;
     EXPECT_FALSE(download(secure + "/text"));
     setenv("SSL_CERT_FILE", std::getenv("PELMORA_CERTIFICATE"), 1);
+    setenv("SSL_CERT_DIR", "/etc/ssl/certs", 1); // trusted, too
     EXPECT_TRUE(download(secure + "/text"));
     EXPECT_TRUE(download(secure + "/to?/text"));
     EXPECT_TRUE(download("http://127.0.0.1:" + plain + "/to?" + secure + "/text"));
