@@ -12,8 +12,8 @@
 namespace Pelmora::Native
 {
 
-/// `<a href="target">text</a>`, or the text alone for an empty target. Neither is escaped: see
-/// Formatter::escape.
+/// The markup of a link, an element `a` with the target as its `href` around the text, or the text
+/// alone for an empty target. Neither is escaped: see Formatter::escape.
 PELMORA_API GString makeLink(const GString& text, const GString& target);
 
 /// Splits at each `separator` byte, whatever the code page. An empty text gives one empty field;
