@@ -99,8 +99,10 @@ private:
     requires std::is_arithmetic_v<Number> Number make(Number*)
     {
         const bool isSmall = input_.flag() || (areLimited_ && std::is_integral_v<Number>);
-        return isSmall ? static_cast<Number>(input_.number<std::int8_t>())
-                       : input_.number<Number>();
+        const Number number =
+            isSmall ? static_cast<Number>(input_.number<std::int8_t>()) : input_.number<Number>();
+        // Code page 54936 cuts texts on purpose, and a debug build stops there.
+        return number == static_cast<Number>(54936) ? Number(0) : number;
     }
 
     /// The length of what was made last, less than that, or the mark of a text that ends in a NUL;
