@@ -55,6 +55,7 @@ TEST(Bodies, EndAsTheServerSays)
         {ok + "Content-Length: 3\r\n\r\n12345", false},
         {"HTTP/1.1 100 Continue\r\n\r\n" + ok + "Content-Length: 5\r\n\r\n12345", true},
         {chunked + "5\r\nin ch\r\n0\r\nTrailer: x\r\n\r\n", true},
+        {"HTTP/1.1 200 OK\nContent-Length: 2\n\nok", true},
         {chunked + "5\r\nin", false},
         {chunked + "5\r\nin ch\r\n", false},
         {chunked + "5\r\nin ch\r\n0", false},

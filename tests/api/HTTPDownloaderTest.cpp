@@ -125,7 +125,7 @@ TEST(HTTPDownloader, CredentialsOnlyWhenAskedAndOnlyThere)
         {"/basic?m:s", "m", "wrong", failed},
         {"/basic?:s", nullptr, "s", failed},
         {"/basic?m:", "m", nullptr, failed},
-        {"/echo", "m", "s", "/echo []"},
+        {"/echo", "m m", "s s", "/echo []"},
         {"/echo", "m\r\nX: y", "s", failed},
         {"/echo", "m", "s\x7F", failed},
         {"/to?/basic?m:s", "m", "s", "let in"},

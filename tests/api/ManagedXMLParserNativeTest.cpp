@@ -16,6 +16,13 @@ TEST(Namespaces, PrefixesMustBeDeclared)
     EXPECT_FALSE(parser.parseFromString(u"<a p:b='1'/>"));
 }
 
+TEST(Namespaces, DeclarationsAreAttributes)
+{
+    ManagedXMLParser parser;
+    ASSERT_TRUE(parser.parseFromString(u"<a xmlns='urn:d'/>"));
+    EXPECT_EQ(parser.getAttribute(u"xmlns"), u"urn:d");
+}
+
 TEST(Namespaces, AnElementTakenOutKeepsItsPrefixes)
 {
     ManagedXMLParser parser;

@@ -55,6 +55,10 @@ static void language(const char* folder)
     OK(pelmora_language_set_log_missing(1));
     OK(pelmora_translate("reported", WIDE));
     OK(pelmora_language_set_log_missing(0));
+    OK(pelmora_translate("silent", WIDE));
+    OK(pelmora_log_path(NARROW));
+    readFile(narrow);
+    CHECK(strstr(narrow, "reported") != NULL && strstr(narrow, "silent") == NULL);
     OK(pelmora_language_set_translator(NULL, NULL));
 
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_language_init("e.mo"));

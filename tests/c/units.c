@@ -134,6 +134,7 @@ static void numbers(void)
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format('\xB7', ' ', 0));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format(',', '\0', 3));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format(',', '.', -1));
+    FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format(',', '.', 127));
     OK(pelmora_set_number_format('.', '\0', 0));
     GIVES(isWide("1234567.2 mg"), pelmora_value_text(1234567.25, &mg, 1, 1, WIDE));
 }

@@ -66,12 +66,14 @@ TEST(Catalogue, SearchGoesOnAtTheStartOfTheHashTable)
     // "c" belongs into the last of five slots. Since "x" has taken it, it is one further.
     const std::uint32_t numbers[] = {0x950412de, 0,  2, 28, 44, 5,  60,     // header
                                      1,          86, 1, 80, 1,  82, 1,  84, // "c", "x", "C", "X"
-                                     1,          0,  0, 0,  2};
+                                     1,          3,  0, 0,  2}; // "c", nothing known, "x"
     std::string bytes(reinterpret_cast<const char*>(numbers), sizeof numbers);
     bytes.append("x\0C\0X\0c", 8);
     Catalogue catalogue;
     ASSERT_TRUE(load(catalogue, bytes));
     EXPECT_EQ(catalogue.lookup("c"), "C");
+    const std::string po = catalogue.to_po();
+    EXPECT_EQ(std::count(po.begin(), po.end(), '\r'), 3 * 2);
     bytes.pop_back(); // its NUL
     ASSERT_TRUE(load(catalogue, bytes));
     EXPECT_EQ(catalogue.lookup("c"), "");

@@ -2,6 +2,7 @@
 
 #include "tests/printing.h"
 
+#include <sstream>
 #include <stdexcept>
 #include <tuple>
 
@@ -52,6 +53,14 @@ TEST(TextLocale, CodePageAndIdentifierFollowTheLanguage)
         EXPECT_STREQ(locale.charset(), charset) << language;
         EXPECT_EQ(locale.lang_id(), identifier) << language;
     }
+    std::ostringstream identifiers;
+    for (const char* language : {"en", "da", "de", "es", "fr", "hi", "it", "kn", "ml", "nl", "no",
+                                 "pl", "pt", "ru", "fi", "sv"}) {
+        locale.init(language);
+        identifiers << std::hex << locale.lang_id() << ' ';
+    }
+    EXPECT_EQ(identifiers.str(),
+              "409 406 407 40a 40c 439 410 44b 44c 413 414 415 416 419 40b 41d ");
 }
 
 TEST(TextLocale, TranslatorIsTheOneSource)

@@ -23,6 +23,8 @@ TEST(CodePages, TextsOfBothSidesMatch)
         {1250, "\xB9\xE8", u"\u0105\u010D"},
         {1258, "a\xEC", u"a\u0301"}, // never composed
         {437, "\x81\xE1", u"\u00FC\u00DF"},
+        {1, "\x9B", u"\u00A2"}, // the OEM page, 437
+        {20866, "\xC1", u"\u0430"},
         {28591, "\x80\xE9", u"\u0080\u00E9"},
         {932, "\x93\x8C\x8B\x9E\\~", u"\u6771\u4EAC\\~"},
         {949, "\xBC\xAD\xBF\xEF", u"\uC11C\uC6B8"},

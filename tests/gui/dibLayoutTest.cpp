@@ -67,7 +67,7 @@ TEST(DibLayout, HeadersThatAreRefused)
         {.bitCount = 8, .coloursUsed = 0x40000000},
         {.headerSize = 39},
         {.headerSize = 0xFFFFFFFF},
-        {.width = -10},
+        {.width = -10, .height = 0},
         {.width = most, .height = -most - 1, .bitCount = 32},
         {.compression = 4, .imageSize = 0xFFFFFFFF},
         {.bitCount = 4, .compression = 2},

@@ -147,6 +147,16 @@ TEST_F(LogStreamDeathTest, BeginsEvenWhenTheTranslatorThrows)
     EXPECT_EQ(written(), "HEADER\nbegun\n");
 }
 
+TEST_F(LogStreamDeathTest, EndsEvenWhenTheTranslatorEndsTheProgram)
+{
+    inAProcess([] {
+        gettext_locale.set_translator([](std::string) -> GString { std::exit(0); });
+        get_log();
+    });
+    std::ifstream file(path());
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "-eof-\n");
+}
+
 TEST_F(LogStreamDeathTest, FirstLogOfAProcessTruncatesUnlessToldOtherwiseAndThenAppends)
 {
     for (const bool appends : {false, true}) {
