@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <sstream>
 #include <string>
 
 namespace Pelmora
@@ -38,8 +39,9 @@ public:
     }
     static std::string read(const std::filesystem::path& file)
     {
-        std::ifstream stream(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
+        std::ostringstream content;
+        content << std::ifstream(file, std::ios::binary).rdbuf();
+        return content.str();
     }
 
 private:

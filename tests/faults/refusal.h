@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,7 +25,23 @@ inline bool isRefused() noexcept
 /// Has a crash print the module where it happened, where the system tells.
 void watchCrashes();
 
-using Text = std::function<std::string()>;
+/// A text that is made when it is asked for, by something that lives until then. For hundreds of
+/// operations std::function takes several times as long to compile.
+class Text
+{
+public:
+    template <class Maker>
+    Text(const Maker& maker)
+        : maker_(&maker),
+          make_([](const void* made) { return std::string((*static_cast<const Maker*>(made))()); })
+    {
+    }
+    std::string operator()() const { return make_(maker_); }
+
+private:
+    const void* maker_;
+    std::string (*make_)(const void*);
+};
 
 /// One run of an operation, with its `nth` allocation refused; with 0 none.
 struct Trial {
@@ -43,7 +58,7 @@ struct Trial {
 
 struct Operation {
     std::string name;
-    std::function<void(Trial&)> run;
+    void (*run)(Trial&);
 };
 
 std::vector<Operation> operations(const std::string& catalogues, const std::string& folder);
