@@ -102,8 +102,14 @@ TextLocale& gettext_locale = processLocale();
 
 void TextLocale::init(const std::string& path)
 {
-    std::string language = languageOf(path);
     std::string kept = path;
+    std::string language;
+    try {
+        language = languageOf(path);
+    } catch (const std::out_of_range&) {
+        path_ = std::move(kept); // the argument of the last call, whatever came of it
+        throw;
+    }
     auto catalogue = std::make_unique<Catalogue>();
     if (path.empty() || !catalogue->load(path))
         catalogue = nullptr;

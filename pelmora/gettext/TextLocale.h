@@ -31,8 +31,8 @@ public:
     /// Sets the language and loads its catalogue. `path` is a catalogue's file or a bare language
     /// code: "lang/de.mo" and "de" both give the language "de". If the file cannot be loaded, texts
     /// stay untranslated, and nothing reports it. Translator and log switch are kept. Throws
-    /// std::out_of_range if fewer than two characters stand before ".mo". The language stays as it
-    /// was when anything is thrown.
+    /// std::out_of_range if fewer than two characters stand before ".mo", and std::bad_alloc.
+    /// Language and catalogue then stay as they were; the path, too, when memory ran out.
     void init(const std::string& path);
 
     /// Null removes the translator. Without one nothing is translated, even when a catalogue is

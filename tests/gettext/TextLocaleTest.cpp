@@ -33,6 +33,7 @@ TEST(TextLocale, LanguageIsTheLastTwoCharactersBeforeTheEnding)
     locale.init(CATALOGUES "small.little.mo");
     for (const char* path : {".mo", "x.mo"}) {
         EXPECT_THROW(locale.init(path), std::out_of_range) << path;
+        EXPECT_EQ(locale.path(), path);
         EXPECT_NE(locale.catalogue(), nullptr) << path;
     }
 }
