@@ -6,11 +6,9 @@ and expects PELMORA_NULL_ARGUMENT, a message that names the parameter, and resul
 import re
 import sys
 
+from declarations import declared_functions
+
 header, exports, target = sys.argv[1:4]
-marks = ("", " windows") if sys.argv[4:] == ["windows"] else ("",)
-exported = {line.split()[0]
-            for line in open(exports)
-            if line.startswith("pelmora_") and line.rstrip("\n")[len(line.split()[0]):] in marks}
 
 # What may be null, by name; "function.parameter" where the name alone would be too much.
 NULLABLE = {"length", "count", "size", "context", "address", "user", "password", "has_point",
@@ -84,15 +82,8 @@ def is_handle(kind):
     return re.fullmatch(r"pelmora_(catalogue|xml|dialog_template|key|font)\*", kind) is not None
 
 
-text = re.sub(r"/\*.*?\*/", "", open(header).read(), flags=re.S)
 calls = []
-for function, list_ in re.findall(r"PELMORA_CALL\s+(pelmora_\w+)\(([^()]*)\);", text):
-    if function not in exported or function.endswith("_destroy") or list_ == "void":
-        continue
-    parameters = []
-    for parameter in re.sub(r"\s+", " ", list_).split(","):
-        kind, stars, name = re.fullmatch(r" ?(.*?) ?(\**) ?(\w+)", parameter).groups()
-        parameters.append((kind + stars, name))
+for function, parameters in declared_functions(header, exports, sys.argv[4:] == ["windows"]):
     for null in [name for kind, name in parameters if kind.endswith("*")]:
         if null in NULLABLE or f"{function}.{null}" in NULLABLE:
             continue

@@ -3,13 +3,15 @@
 is refused: a call of each function of the C interface, with arguments that make it allocate wherever
 it can, and what the C++ interface offers beside that.
 """
+import pathlib
 import re
 import sys
 
+sys.path.append(str(pathlib.Path(__file__).parent.parent / "c"))
+from declarations import declared_functions
+
 header, exports, target = sys.argv[1:4]
-marks = ("", " windows") if sys.argv[4:] == ["windows"] else ("",)
-exported = {line.split()[0] for line in open(exports)
-            if line.startswith("pelmora_") and line.rstrip("\n")[len(line.split()[0]):] in marks}
+is_windows = sys.argv[4:] == ["windows"]
 
 # Arguments: of one function, of a name, or of a type; the first that is there counts.
 ARGUMENTS = {
@@ -397,15 +399,8 @@ def operation(function, parameters):
     return f'    operations.push_back({{"{function}", [](Trial& trial) {{\n{body}    }}}});\n'
 
 
-text = re.sub(r"/\*.*?\*/", "", open(header).read(), flags=re.S)
 operations = []
-for function, list_ in re.findall(r"PELMORA_CALL\s+(pelmora_\w+)\(([^()]*)\);", text):
-    if function not in exported or function.endswith("_destroy") or list_ == "void":
-        continue
-    parameters = []
-    for parameter in re.sub(r"\s+", " ", list_).split(","):
-        kind, stars, name = re.fullmatch(r" ?(.*?) ?(\**) ?(\w+)", parameter).groups()
-        parameters.append((kind + stars, name))
+for function, parameters in declared_functions(header, exports, is_windows):
     operations.append(operation(function, parameters))
 for name, prepare, *rest in NATIVE:
     work = f"return std::string({rest[0]});" if len(rest) == 1 else f'{rest[0]}; return std::string();'
@@ -414,6 +409,6 @@ for name, prepare, *rest in NATIVE:
                       f"        {prepare + ';' if prepare else ''}\n"
                       f"        trial.attempt([&] {{ {work} }}{state});\n    }}}});\n")
 source = SUPPORT.replace("@operations@", "".join(operations)) \
-    .replace("@windows@", WINDOWS if marks[1:] else "").replace("@L@", "L" if marks[1:] else "u")
+    .replace("@windows@", WINDOWS if is_windows else "").replace("@L@", "L" if is_windows else "u")
 with open(target, "w") as out:
     out.write(source)
