@@ -9,6 +9,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${CPACK_PACKAGE_VENDOR} <maintainers@pelmora.invalid>") # has no address yet
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY >=)
 
 macro(pelmora_debian_package component name section description)
   list(APPEND CPACK_COMPONENTS_ALL ${component})
@@ -27,7 +30,6 @@ macro(pelmora_debian_library component name description)
   list(APPEND libraries "${name}${so_version} (= ${PROJECT_VERSION})")
   install(TARGETS ${component} LIBRARY COMPONENT ${component} NAMELINK_SKIP EXCLUDE_FROM_ALL)
   set(CPACK_DEBIAN_${upper}_PACKAGE_SHLIBDEPS ON)
-  set(CPACK_DEBIAN_${upper}_PACKAGE_GENERATE_SHLIBS ON)
   # Loaded when something is downloaded, which nothing in the library's file tells.
   set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "libcurl4 (>= 7.87)")
 endmacro()

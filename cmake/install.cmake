@@ -11,6 +11,14 @@ if(PELMORA_C_ONLY)
 endif()
 set(package ${PROJECT_BINARY_DIR}/generated/package)
 
+# Where GDB looks for it.
+set(debug_destination ${CMAKE_INSTALL_LIBDIR}/.debug)
+if(WIN32)
+  set(debug_destination ${CMAKE_INSTALL_BINDIR})
+elseif(PELMORA_DEBIAN)
+  set(debug_destination lib/debug/usr/${CMAKE_INSTALL_LIBDIR})
+endif()
+
 foreach(library ${libraries})
   get_target_property(header_sets ${library} INTERFACE_HEADER_SETS)
   list(TRANSFORM header_sets REPLACE "(.+)" "FILE_SET;\\1;COMPONENT;Development")
@@ -20,9 +28,8 @@ foreach(library ${libraries})
     ARCHIVE COMPONENT Development
     ${header_sets})
   if(PELMORA_SPLIT_DEBUG)
-    set(destination $<IF:$<BOOL:${WIN32}>,${CMAKE_INSTALL_BINDIR},${CMAKE_INSTALL_LIBDIR}/.debug>)
     install(FILES ${pelmora_debug_folder}/$<TARGET_FILE_NAME:${library}>.debug
-      DESTINATION ${destination} COMPONENT Debug)
+      DESTINATION ${debug_destination} COMPONENT Debug)
   endif()
 endforeach()
 install(FILES ${pelmora_c_link_files}

@@ -1,5 +1,6 @@
 # What scripts/package makes with CPack: an archive for either system, with the example programs, and
 # one with the debug information; or, when PELMORA_DEBIAN says so, Debian packages.
+include(GNUInstallDirs)
 option(PELMORA_DEBIAN "CPack makes Debian packages, instead of archives" OFF)
 set(PELMORA_PACKAGE_EXTRA "" CACHE PATH
   "Folder with what this build does not make: archive/ and debug/ are added to those two archives")
