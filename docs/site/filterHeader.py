@@ -2,7 +2,8 @@
 
 In the headers a comment holds for the lines below it, up to the next comment or empty line: here each
 declaration gets it. Copies, moves and destructors that the language makes speak for themselves there:
-here they get a sentence. The C header's comments become Doxygen's, and its sections groups.
+here they get a sentence. Private sections are left out: Doxygen would link to a list of the classes in
+them that it does not write. The C header's comments become Doxygen's, and its sections groups.
 """
 import re
 import sys
@@ -61,6 +62,12 @@ def from_c(text):
 
     text = re.sub(r"([^\n]*?)[ \t]*(/\*.*?\*/)(\n?)", replace, text, flags=re.S)
     return text.replace("\n#ifdef __cplusplus\n}\n", "\n/// @}\n#ifdef __cplusplus\n}\n")
+
+
+def without_private(text):
+    """The text with empty lines in place of the private sections."""
+    return re.sub(r"^private:\n.*?(?=^(\};|public:|protected:))", lambda match: "\n" * match[0].count("\n"),
+                  text, flags=re.M | re.S)
 
 
 def file_comment(lines):
@@ -125,4 +132,4 @@ path = sys.argv[1]
 text = open(path, encoding="utf-8").read()
 if path.endswith("c/pelmora.h"):
     text = from_c(text)
-with_comments(file_comment(text.splitlines()))
+with_comments(file_comment(without_private(text).splitlines()))
