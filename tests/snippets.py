@@ -2,7 +2,8 @@
 
 A block with a main function is a program; the document says what it prints in a ```text block after
 "prints". Any other block becomes the body of a function, which is only compiled. Blocks of
-```cpp windows are for Windows alone.
+```cpp windows are for Windows alone. A ```text block after <!-- FILE --> shows the beginning of that file of
+the repository, which is an example's output as its test compares it.
 
 FOLDER/snippets.cpp has the whole of C++ and runs the program that its argument names, also the ones of
 C, which have a source each. FOLDER/snippets.cs has those of C# and runs all of them.
@@ -15,6 +16,7 @@ import sys
 
 BLOCK = re.compile(r"^```(cpp|c|csharp)( windows)?\n(.*?)^```$(?:\n\nprints\n\n```text\n(.*?)^```$)?",
                    re.M | re.S)
+OUTPUT = re.compile(r"^<!-- (\S+) -->\n```text\n(.*?)^```$", re.M | re.S)
 CPP_HEAD = """#include <pelmora/pelmora.h>
 #include <iostream>
 #include <string_view>
@@ -75,6 +77,8 @@ class Sources:
             self.add_program(name, f"{name}()", printed, windows)
         else:
             text += f"\nvoid {name}(void);\nvoid {name}(void)\n{{\n{where}{code}}}\n"
+        if windows:
+            text = f"#if defined(_WIN32)\n{text}#else\ntypedef int {name}; // no source is empty\n#endif\n"
         write(self.folder / f"{name}.c", text)
         self.cmake += f"list(APPEND c_snippets {name}.c)\n"
 
@@ -90,10 +94,19 @@ class Sources:
         self.cs += f"namespace {name}\n{{\n{usings}\n{code}}}\n"
 
 
+def check_output(document, text):
+    """Ends with a message when the document shows an output that is not the example's."""
+    root = pathlib.Path(__file__).resolve().parent.parent
+    for file, shown in OUTPUT.findall(text):
+        if not (root / file).read_text(encoding="utf-8").startswith(shown):
+            sys.exit(f"{document}: the output after {file} is not what stands there")
+
+
 folder = pathlib.Path(sys.argv[1])
 sources = Sources(folder)
 for document in map(pathlib.Path, sys.argv[2:]):
     text = document.read_text(encoding="utf-8")
+    check_output(document, text)
     path = document.resolve().relative_to(pathlib.Path(__file__).resolve().parent.parent)
     stem = re.sub(r"\W", "_", "_".join(path.with_suffix("").parts[-2:])).lower()
     for number, block in enumerate(BLOCK.finditer(text), 1):

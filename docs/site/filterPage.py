@@ -1,7 +1,8 @@
 """filterPage.py PAGE: prints a page in Markdown as Doxygen wants it.
 
-Links to what is not a page lose their target, a graph for GitHub becomes one for Graphviz, and the
-words after a block's language, which are for the tests, go.
+Headings get the names by which GitHub knows them, with the page's before it, because Doxygen has one list of
+names for all pages. Links to what is not a page lose their target, a graph for GitHub becomes one for
+Graphviz, and the words after a block's language, which are for the tests, go.
 """
 import os
 import re
@@ -11,9 +12,22 @@ path = os.path.relpath(sys.argv[1])
 text = open(path, encoding="utf-8").read()
 
 
+def name_of(page, heading):
+    return re.sub(r"\W", "_", page) + "-" + heading
+
+
+def heading(match):
+    slug = re.sub(r"[^\w -]", "", match[2].lower()).replace(" ", "-")
+    return f"{match[1]} {match[2]} {{#{name_of(path, slug)}}}"
+
+
 def link(match):
     words, target = match.groups()
-    if re.match(r"[a-z]+:|#|.*\.(md|png)(#|$)", target):
+    page, _, place = target.partition("#")
+    if place and not re.match(r"[a-z]+:", target):
+        page = os.path.relpath(os.path.join(os.path.dirname(path), page)) if page else path
+        return f"[{words}](#{name_of(page, place)})"
+    if re.match(r"[a-z]+:|.*\.(md|png)$", target):
         return match[0]
     return words if "`" in words else f"`{words}`"
 
@@ -32,6 +46,7 @@ def picture(match):
 
 text = re.sub(r"!\[([^][]*)\]\(([^()\s]*)\)", picture, text)
 text = re.sub(r"(?<!!)\[([^][]*)\]\(([^()\s]*)\)", link, text)
+text = re.sub(r"^(##+) (.*)$", heading, text, flags=re.M)
 text = re.sub(r"^```mermaid\n(.*?)^```\n", graph, text, flags=re.M | re.S)
 text = re.sub(r"^```(\w+) .*$", r"```\1", text, flags=re.M)
 text = text.replace("```csharp\n", "```\n") # whose names would lead to pages that there are not
