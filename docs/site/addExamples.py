@@ -1,25 +1,27 @@
-"""addExamples.py TAGFILE HTML GUIDE...: leads from each function's place in the reference to the guides whose code
-calls it, by Doxygen's tag file. Fails and names the functions that no guide shows."""
+"""addExamples.py TAGFILE HTML LANGUAGES PAGES GUIDE...: leads from each function's place in the reference to the
+guides whose code in one of these languages calls it, by Doxygen's tag file. PAGES is where the guides' pages are,
+seen from HTML. Fails and names the functions that no guide shows."""
 import html
 import pathlib
 import re
 import sys
 import xml.etree.ElementTree
 
-CODE = re.compile(r"^```(?:cpp|c)(?: windows)?\n(.*?)^```$", re.M | re.S)
 # What a language calls by itself, or what speaks for itself in a container.
-NO_EXAMPLE = {"size", "empty", "begin", "end"}
+NO_EXAMPLE = {"size", "empty", "begin", "end", "Equals", "GetHashCode"}
 
-site = pathlib.Path(sys.argv[2])
-root = xml.etree.ElementTree.parse(sys.argv[1]).getroot()
-titles = {page.findtext("filename"): page.findtext("title")
-          for page in root.findall("compound[@kind='page']")}
+tags, site, languages, pages_folder, *paths = sys.argv[1:]
+site = pathlib.Path(site)
+root = xml.etree.ElementTree.parse(tags).getroot()
+code_block = re.compile(rf"^```(?:{languages})(?: windows)?\n(.*?)^```$", re.M | re.S)
 
 guides = [] # the link to it, the names that it calls, all its names
-for path in sys.argv[3:]:
-    code = "\n".join(CODE.findall(pathlib.Path(path).read_text(encoding="utf-8")))
-    file = "md_" + re.sub(r"\W", "_", path.removesuffix(".md")) + ".html"
-    guides.append((f'<a href="{file}">{html.escape(titles[file])}</a>',
+for path in paths:
+    text = pathlib.Path(path).read_text(encoding="utf-8")
+    code = "\n".join(code_block.findall(text))
+    file = pages_folder + "md_" + re.sub(r"\W", "_", path.removesuffix(".md")) + ".html"
+    title = re.match(r"# (.*)", text)[1]
+    guides.append((f'<a href="{file}">{html.escape(title)}</a>',
                    set(re.findall(r"(\w+)\(", code)), set(re.findall(r"\w+", code))))
 
 
@@ -29,7 +31,7 @@ def functions():
         if compound.get("kind") not in ("class", "struct", "namespace", "group"):
             continue
         scope = compound.findtext("name")
-        for member in compound.findall("member[@kind='function']"):
+        for member in compound.findall("member[@kind='function']") + compound.findall("member[@kind='property']"):
             name = member.findtext("name")
             is_own = re.fullmatch(r"\w+", name) and not name.startswith("operator")
             if is_own and name != scope.split("::")[-1] and member.get("protection") is None:

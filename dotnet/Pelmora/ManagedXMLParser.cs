@@ -64,7 +64,7 @@ namespace ManagedXML
         }
 
         /// <summary>The first node that the XPath expression
-        /// //Action/Event[@namedAttribute="tag"] selects, as XML with its tags. The arguments are
+        /// //Action/Event[&#64;namedAttribute="tag"] selects, as XML with its tags. The arguments are
         /// put in as they are, so that a tag with a double quote makes the expression malformed; ""
         /// for that, and when nothing matches.</summary>
         public string getElementWithAttributeValue(string namedAttribute, string tag)
