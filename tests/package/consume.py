@@ -35,13 +35,20 @@ def run(command, **options):
 
 
 class Consumer:
-    def __init__(self, options):
-        self.prefix = options.prefix.resolve()
-        self.work = options.work.resolve()
-        self.emulator = shlex.split(options.emulator)
-        self.toolchain = options.toolchain
-        self.compilers = {"cpp": options.cxx, "c": options.cc}
+    def __init__(self, prefix, work, cxx="c++", cc="cc", toolchain=None, emulator=""):
+        self.prefix = prefix.resolve()
+        self.work = work.resolve()
+        self.compilers = {"cpp": cxx, "c": cc}
+        self.toolchain = toolchain
+        self.emulator = shlex.split(emulator)
         self.is_windows = any(self.prefix.glob("bin/*.dll"))
+
+    def consume(self):
+        shutil.rmtree(self.work, ignore_errors=True)
+        self.cmake("cpp")
+        self.cmake("c")
+        self.pkg_config("cpp", "pelmora")
+        self.pkg_config("c", "pelmora-c")
 
     def starts(self, program, **environment):
         """Runs a program and looks at what it prints, and which libraries it asks for."""
@@ -58,8 +65,8 @@ class Consumer:
     def names(self):
         """What the libraries are called within, as docs/versions.md says."""
         def number(header, name):
-            [file] = self.prefix.rglob(f"include/pelmora/{header}")
-            return re.search(rf"^#define PELMORA_{name} (\d+)", file.read_text(), re.M)[1]
+            text = (self.prefix / "include/pelmora" / header).read_text()
+            return re.search(rf"^#define PELMORA_{name} (\d+)", text, re.M)[1]
         major, minor = number("version.h", "VERSION_MAJOR"), number("version.h", "VERSION_MINOR")
         return f"libpelmora.so.{major}.{minor}", f"libpelmora-c.so.{number('c/pelmora.h', 'ABI')}"
 
@@ -79,7 +86,7 @@ class Consumer:
 
     def pkg_config(self, language, package):
         """By the files that are where the package is now, wherever it was made for."""
-        [file] = self.prefix.rglob(f"{package}.pc")
+        [file] = self.prefix.glob(f"lib/**/{package}.pc")
         flags = run(["pkg-config", "--cflags", "--libs", package],
                     env=os.environ | {"PKG_CONFIG_PATH": str(file.parent)})
         folder = self.work / "pkg-config" / language
@@ -111,18 +118,14 @@ def main():
     parser.add_argument("--emulator", default="")
     parser.add_argument("--cxx", default="c++")
     parser.add_argument("--cc", default="cc")
-    options = parser.parse_args()
-    shutil.rmtree(options.work, ignore_errors=True)
-    if options.install:
-        install(options.install, options.prefix)
-    consumer = Consumer(options)
-    consumer.cmake("cpp")
-    consumer.cmake("c")
-    consumer.pkg_config("cpp", "pelmora")
-    consumer.pkg_config("c", "pelmora-c")
+    options = vars(parser.parse_args())
+    if build := options.pop("install"):
+        install(build, options["prefix"])
+    Consumer(**options).consume()
 
 
-try:
-    main()
-except Failure as failure:
-    sys.exit(f"consume.py: {failure}")
+if __name__ == "__main__":
+    try:
+        main()
+    except Failure as failure:
+        sys.exit(f"consume.py: {failure}")
