@@ -30,12 +30,17 @@ def infusions(program, examples, emulator=""):
          ROOT / "examples/infusions/compareOutput.cmake"], cwd=examples / "infusions")
 
 
+def look_into_c(library, objdump):
+    """Exports and imports of the C library as in the builds that are tested."""
+    run([sys.executable, "-B", ROOT / "tests/c/checkExports.py", library, objdump, ROOT / "pelmora/c/pelmora.h",
+         ROOT / "pelmora/c/exports.txt", *(ROOT / "tests/c").glob("*.c")])
+
+
 def look_into(libraries, objdump):
-    """Exports and hardening as in the builds that are tested; no debug information."""
+    """The same of both, and hardening; no debug information."""
     cpp, c = libraries
     run([ROOT / "scripts/exports", cpp])
-    run([sys.executable, "-B", ROOT / "tests/c/checkExports.py", c, objdump, ROOT / "pelmora/c/pelmora.h",
-         ROOT / "pelmora/c/exports.txt", *(ROOT / "tests/c").glob("*.c")])
+    look_into_c(c, objdump)
     if cpp.suffix != ".dll": # where it looks for symbols that a stripped one lacks
         run([sys.executable, "-B", ROOT / "tests/checkHardening.py", objdump, cpp, c])
     for library in libraries:
@@ -57,6 +62,18 @@ def use_archive(root, work, libraries, objdump, **how):
          f"-DCMAKE_PREFIX_PATH={root}", *toolchain])
     run(["cmake", "--build", work / "examples"])
     infusions(work / f"examples/bin/infusions{suffix}", documents / "examples", emulator)
+
+
+def link_for_windows(root, work):
+    """The C library for 32-bit programs, which do not run here, and the form that Microsoft's linker takes."""
+    source = HERE / "c/main.c"
+    x86 = root / "x86"
+    look_into_c(x86 / "bin/pelmora-c.dll", "i686-w64-mingw32-objdump")
+    for program, compiler, prefix, library in (
+            ("x86.exe", "i686-w64-mingw32-gcc-posix", x86, "libpelmora-c.dll.a"),
+            ("x86-lib.exe", "i686-w64-mingw32-gcc-posix", x86, "pelmora-c.lib"),
+            ("x64-lib.exe", MINGW + "gcc-posix", root, "pelmora-c.lib")):
+        run([compiler, source, f"-I{prefix}/include", prefix / "lib" / library, "-o", work / program])
 
 
 def files_below(folder):
@@ -108,9 +125,11 @@ def main(folder, work, emulator):
         return packages
 
     [archive] = found("Pelmora-*-windows-x64.zip")
-    use_archive(unpacked(archive, work / "windows"), work / "windows-use", ["bin/pelmora.dll", "bin/pelmora-c.dll"],
-                MINGW + "objdump", cxx=MINGW + "g++-posix", cc=MINGW + "gcc-posix",
+    root = unpacked(archive, work / "windows")
+    use_archive(root, work / "windows-use", ["bin/pelmora.dll", "bin/pelmora-c.dll"], MINGW + "objdump",
+                cxx=MINGW + "g++-posix", cc=MINGW + "gcc-posix",
                 toolchain=ROOT / "cmake/mingw64.cmake", emulator=emulator)
+    link_for_windows(root, work / "windows-use")
     [archive] = found("Pelmora-*-linux-x64.tar.gz")
     use_archive(unpacked(archive, work / "linux"), work / "linux-use", ["lib/libpelmora.so", "lib/libpelmora-c.so"],
                 "objdump", cxx="g++", cc="gcc")
