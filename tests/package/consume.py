@@ -19,7 +19,8 @@ import sys
 
 HERE = pathlib.Path(__file__).resolve().parent
 CONFIGURATIONS = ["Debug", "Release", "RelWithDebInfo", "MinSizeRel"]
-PRINTED = "5 mcg\n"
+SOURCES = {"cpp": HERE / "cpp/main.cpp", "c": HERE.parent.parent / "examples/c/infusion.c"}
+PRINTED = {"cpp": "5 mcg\n", "c": "5 mcg/kg/min at 1.6 mg/mL: 13.1 mL/hr\n"}
 
 
 class Failure(Exception):
@@ -50,12 +51,12 @@ class Consumer:
         self.pkg_config("cpp", "pelmora")
         self.pkg_config("c", "pelmora-c")
 
-    def starts(self, program, **environment):
+    def starts(self, program, language, **environment):
         """Runs a program and looks at what it prints, and which libraries it asks for."""
         if self.is_windows:
             program = program.with_suffix(".exe")
         printed = run([*self.emulator, program], env=os.environ | environment)
-        if printed != PRINTED:
+        if printed != PRINTED[language]:
             raise Failure(f"{program} prints {printed!r}")
         if not self.is_windows:
             needed = re.findall(r"NEEDED +(libpelmora\S*)", run(["objdump", "-p", program]))
@@ -82,7 +83,7 @@ class Consumer:
         run(["cmake", "-G", "Ninja Multi-Config", "-S", HERE / language, "-B", build, *options])
         run(["cmake", "--build", build, "--target", "all:all"])
         for configuration in CONFIGURATIONS:
-            self.starts(build / configuration / "program")
+            self.starts(build / configuration / "program", language)
 
     def pkg_config(self, language, package):
         """By the files that are where the package is now, wherever it was made for."""
@@ -92,12 +93,12 @@ class Consumer:
         folder = self.work / "pkg-config" / language
         folder.mkdir(parents=True)
         standard = ["-std=c++20"] if language == "cpp" else []
-        run([self.compilers[language], *standard, HERE / language / f"main.{language}", *shlex.split(flags),
+        run([self.compilers[language], *standard, SOURCES[language], *shlex.split(flags),
              "-o", folder / "program"])
         if self.is_windows:
             for library in self.prefix.glob("bin/*.dll"):
                 shutil.copy(library, folder)
-        self.starts(folder / "program", LD_LIBRARY_PATH=str(file.parent.parent))
+        self.starts(folder / "program", language, LD_LIBRARY_PATH=str(file.parent.parent))
 
 
 def install(build, prefix):

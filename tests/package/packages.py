@@ -66,7 +66,7 @@ def use_archive(root, work, libraries, objdump, **how):
 
 def link_for_windows(root, work):
     """The C library for 32-bit programs, which do not run here, and the form that Microsoft's linker takes."""
-    source = HERE / "c/main.c"
+    source = ROOT / "examples/c/infusion.c"
     x86 = root / "x86"
     look_into_c(x86 / "bin/pelmora-c.dll", "i686-w64-mingw32-objdump")
     for program, compiler, prefix, library in (
