@@ -1,7 +1,5 @@
 #pragma once
 
-#include <atomic>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <random>

@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <functional>
 #include <thread>
 #include <tuple>
 #include <vector>

@@ -1,7 +1,10 @@
 #include "pelmora/c/pelmora.h"
 
+#include "tests/TemporaryFolder.h"
+
 #include <array>
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <thread>
@@ -33,27 +36,35 @@ namespace
 /// The first test, because what unwinds threads may be prepared by an exception before.
 TEST(CInterface, LetsACancelledThreadGo)
 {
-    static std::atomic<bool> isWaiting = false;
+    static std::atomic<bool> isWaiting;
     const pelmora_translator wait = [](const char*, pelmora_char16*, std::size_t, void*) {
         isWaiting = true;
         pause();
         return std::size_t(0);
     };
-    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(wait, nullptr));
-    const auto translate = [](void*) -> void* {
-        std::size_t length = 0;
-        pelmora_translate("Dose", nullptr, 0, &length);
+    const auto ask = [](void* logs) -> void* { // the log's header asks for its labels
+        logs ? pelmora_log_line("lost") : pelmora_translate("Dose", nullptr, 0, nullptr);
         return nullptr;
     };
-    pthread_t thread = 0;
-    ASSERT_EQ(0, pthread_create(&thread, nullptr, translate, nullptr));
-    while (!isWaiting)
-        std::this_thread::yield();
-    void* result = nullptr;
-    EXPECT_EQ(0, pthread_cancel(thread));
-    EXPECT_EQ(0, pthread_join(thread, &result));
-    EXPECT_EQ(PTHREAD_CANCELED, result);
-    ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(nullptr, nullptr));
+    pelmora_log_configure("pelmora-cancelled.txt", nullptr, 0);
+    for (void* const logs : {static_cast<void*>(nullptr), static_cast<void*>(&isWaiting)}) {
+        ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(wait, nullptr));
+        isWaiting = false;
+        pthread_t thread = 0;
+        ASSERT_EQ(0, pthread_create(&thread, nullptr, ask, logs));
+        while (!isWaiting)
+            std::this_thread::yield();
+        void* result = nullptr;
+        EXPECT_EQ(0, pthread_cancel(thread));
+        EXPECT_EQ(0, pthread_join(thread, &result));
+        EXPECT_EQ(PTHREAD_CANCELED, result);
+        ASSERT_EQ(PELMORA_OK, pelmora_language_set_translator(nullptr, nullptr));
+    }
+    pelmora_log_line("next");
+    std::array<char, 200> path;
+    ASSERT_EQ(PELMORA_OK, pelmora_log_path(path.data(), path.size(), nullptr));
+    EXPECT_EQ("next\n", Pelmora::TemporaryFolder::read(path.data()));
+    std::remove(path.data());
 }
 
 constexpr pelmora_element mgPerHr[] = {{PELMORA_MILLI, PELMORA_UNIT_G, 1},
@@ -98,24 +109,18 @@ TEST(CInterface, SaysThatMemoryRanOutWithoutMemory)
 {
     if (!isOurAllocator())
         GTEST_SKIP();
-    std::string text(100, '<');
-    std::string buffer(1000, '\0');
-    std::size_t length = 0;
-    // A thread that has no place for messages yet, and one that has.
-    for (const char* expected : {"out of memory, also for a message", "out of memory"}) {
-        std::thread([&] {
-            if (std::string_view(expected) == "out of memory")
-                pelmora_escape_narrow(nullptr, 1, nullptr, 0, nullptr);
-            isRefused = true;
-            const pelmora_status status = pelmora_escape_narrow(
-                text.data(), text.size(), buffer.data(), buffer.size(), &length);
-            isRefused = false;
-            EXPECT_EQ(PELMORA_OUT_OF_MEMORY, status);
-            EXPECT_STREQ(expected, pelmora_last_error());
-            EXPECT_EQ(PELMORA_OK, pelmora_log_show_in_notepad(0));
-            EXPECT_STREQ("", pelmora_last_error());
-        }).join();
-    }
+    const std::string text(100, '<');
+    std::array<char, 1000> buffer;
+    const std::jthread other([&] { // has no place for messages yet
+        isRefused = true;
+        const pelmora_status status =
+            pelmora_escape_narrow(text.data(), text.size(), buffer.data(), buffer.size(), nullptr);
+        isRefused = false;
+        EXPECT_EQ(PELMORA_OUT_OF_MEMORY, status);
+        EXPECT_STREQ("out of memory, also for a message", pelmora_last_error());
+        EXPECT_EQ(PELMORA_OK, pelmora_log_show_in_notepad(0));
+        EXPECT_STREQ("", pelmora_last_error());
+    });
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "tests/faults/refusal.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <new>
 #include <string_view>
 

@@ -1,7 +1,6 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "tests/printing.h"
 
-#include <cmath>
 #include <limits>
 #include <tuple>
 

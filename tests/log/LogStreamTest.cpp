@@ -115,18 +115,15 @@ TEST_F(LogStreamDeathTest, WhatIsLoggedAfterTheEndIsAppended)
                          "Warning: the LogStream has been destroyed once\nlate\n");
 }
 
-GString answerNothing(std::string)
-{
-    get_log() << "asked" << endl;
-    return {};
-}
-
 TEST_F(LogStreamDeathTest, TranslationsOfTheHeaderReportAfterIt)
 {
     inAProcess([] {
         log_settings().header_text = "Ward 7";
         gettext_locale.init("zz");
-        gettext_locale.set_translator(answerNothing);
+        gettext_locale.set_translator([](std::string) {
+            get_log() << "asked" << endl;
+            return GString();
+        });
         gettext_locale.set_log_missing(true);
         gettext_locale.tr("Dose");
         gettext_locale.tr(" ");

@@ -5,7 +5,6 @@
 #include "tests/printing.h"
 #include "tests/registry/TestKeys.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <string_view>
 
