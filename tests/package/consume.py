@@ -5,7 +5,7 @@ pkg-config. Prints what fails; silent when nothing does.
 
 --install BUILD      installs this build into PREFIX first, by way of another folder
 --toolchain FILE     CMake's toolchain file, of a cross compiler
---emulator COMMAND   runs the programs, otherwise they run by themselves
+--emulator COMMAND   runs the programs, otherwise they run by themselves; with ; between its words, as in CMake
 --cxx, --cc PROGRAM  the compilers, otherwise the system's; for pkg-config those of the cross compiler, too
 """
 import argparse
@@ -36,12 +36,12 @@ def run(command, **options):
 
 
 class Consumer:
-    def __init__(self, prefix, work, cxx="c++", cc="cc", toolchain=None, emulator=""):
+    def __init__(self, prefix, work, cxx="c++", cc="cc", toolchain=None, emulator=()):
         self.prefix = prefix.resolve()
         self.work = work.resolve()
         self.compilers = {"cpp": cxx, "c": cc}
         self.toolchain = toolchain
-        self.emulator = shlex.split(emulator)
+        self.emulator = emulator
         self.is_windows = any(self.prefix.glob("bin/*.dll"))
 
     def consume(self):
@@ -116,7 +116,7 @@ def main():
     parser.add_argument("work", type=pathlib.Path)
     parser.add_argument("--install", metavar="BUILD")
     parser.add_argument("--toolchain")
-    parser.add_argument("--emulator", default="")
+    parser.add_argument("--emulator", default=(), type=lambda words: words.split(";") if words else ())
     parser.add_argument("--cxx", default="c++")
     parser.add_argument("--cc", default="cc")
     options = vars(parser.parse_args())

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """packages.py FOLDER WORK EMULATOR: uses the packages in FOLDER as their users do, each unpacked into a folder
 of WORK: the archives and Debian's packages by consume.py, with their example programs, and the NuGet
-package by mono. EMULATOR runs programs of Windows. Prints what it does, and what fails.
+package by mono. EMULATOR runs programs of Windows, as for consume.py. Prints what it does, and what fails.
 """
 import os
 import pathlib
@@ -23,9 +23,9 @@ def unpacked(package, folder, form=None):
     return inside[0] if len(inside) == 1 else folder
 
 
-def infusions(program, examples, emulator=""):
+def infusions(program, examples, emulator=()):
     """The example's orders have to print what stands beside them."""
-    run(["cmake", f"-DPROGRAM={program}", f"-DEMULATOR={';'.join(emulator.split())}",
+    run(["cmake", f"-DPROGRAM={program}", f"-DEMULATOR={';'.join(emulator)}",
          "-DORDERS=textbook.txt", "-DEXPECTED=textbook.expected", "-P",
          ROOT / "examples/infusions/compareOutput.cmake"], cwd=examples / "infusions")
 
@@ -50,7 +50,7 @@ def look_into(libraries, objdump):
 
 def use_archive(root, work, libraries, objdump, **how):
     documents = root / "share/doc/Pelmora"
-    emulator = how.get("emulator", "")
+    emulator = how.get("emulator", ())
     suffix = ".exe" if emulator else ""
     look_into([root / library for library in libraries], objdump)
     infusions(root / f"bin/infusions{suffix}", documents / "examples", emulator)
@@ -66,14 +66,14 @@ def use_archive(root, work, libraries, objdump, **how):
 
 def link_for_windows(root, work):
     """The C library for 32-bit programs, which do not run here, and the form that Microsoft's linker takes."""
-    source = ROOT / "examples/c/infusion.c"
     x86 = root / "x86"
     look_into_c(x86 / "bin/pelmora-c.dll", "i686-w64-mingw32-objdump")
-    for program, compiler, prefix, library in (
-            ("x86.exe", "i686-w64-mingw32-gcc-posix", x86, "libpelmora-c.dll.a"),
-            ("x86-lib.exe", "i686-w64-mingw32-gcc-posix", x86, "pelmora-c.lib"),
-            ("x64-lib.exe", MINGW + "gcc-posix", root, "pelmora-c.lib")):
-        run([compiler, source, f"-I{prefix}/include", prefix / "lib" / library, "-o", work / program])
+    run(["cmake", "-G", "Ninja", "-S", HERE / "c", "-B", work / "x86", f"-DCMAKE_PREFIX_PATH={x86}",
+         f"-DCMAKE_TOOLCHAIN_FILE={ROOT}/cmake/mingw32.cmake"])
+    run(["cmake", "--build", work / "x86"])
+    for prefix, compiler in (root, MINGW + "gcc-posix"), (x86, "i686-w64-mingw32-gcc-posix"):
+        run([compiler, ROOT / "examples/c/infusion.c", f"-I{prefix}/include", prefix / "lib/pelmora-c.lib",
+             "-o", work / "program.exe"])
 
 
 def files_below(folder):
@@ -110,7 +110,7 @@ def use_nuget(root, work):
     shutil.copytree(root / "runtimes", work / "runtimes")
     run(["mcs", "-nologo", "-langversion:7", "-warnaserror", f"-r:{work}/Pelmora.dll", f"-out:{work}/infusions.exe",
          *(ROOT / "examples/dotnet").glob("*.cs")])
-    infusions(work / "infusions.exe", ROOT / "examples", "mono")
+    infusions(work / "infusions.exe", ROOT / "examples", ["mono"])
 
 
 def main(folder, work, emulator):
@@ -142,6 +142,6 @@ if __name__ == "__main__":
     if len(sys.argv) != 4 or "--help" in sys.argv:
         sys.exit(__doc__)
     try:
-        main(pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve(), sys.argv[3])
+        main(pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve(), sys.argv[3].split(";"))
     except Failure as failure:
         sys.exit(f"packages.py: {failure}")

@@ -12,16 +12,17 @@ emulator=
 set -- --cxx=g++ --cc=gcc
 if [ "$system" = windows ]; then
     compiler=-DCMAKE_TOOLCHAIN_FILE=$project/cmake/mingw64.cmake
-    emulator="$project/scripts/wine-run $project/build/windows/wine"
+    emulator=$project/scripts/wine-run
+    wine=$project/build/windows/wine
     prefix=x86_64-w64-mingw32
     set -- --cxx=$prefix-g++-posix --cc=$prefix-gcc-posix --toolchain="$project/cmake/mingw64.cmake" \
-        --emulator="$emulator"
+        --emulator="$emulator;$wine"
 fi
 
 cmake -S "$project/tests/package/host" -B "$folder/host" -G Ninja "$compiler" -DCMAKE_BUILD_TYPE=Debug \
     -DCMAKE_CXX_STANDARD=17 -DCMAKE_UNITY_BUILD=ON -DBUILD_SHARED_LIBS=OFF -DPELMORA_INSTALL=ON \
     -DFETCHED=ON -DFETCHCONTENT_SOURCE_DIR_PELMORA="$project" >"$folder/log"
 cmake --build "$folder/host" >>"$folder/log" || { cat "$folder/log" >&2; exit 1; }
-$emulator "$folder"/host/programs/program* | grep -q "^5 mcg"
+${emulator:+"$emulator" "$wine"} "$folder"/host/programs/program* | grep -q "^5 mcg"
 cmake --install "$folder/host" --prefix "$folder/installed" >/dev/null
 python3 -B "$project/tests/package/consume.py" "$@" "$folder/installed" "$folder/programs"
