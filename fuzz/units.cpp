@@ -5,7 +5,6 @@
 #include "pelmora/units/UnitValue.h"
 #include "pelmora/units/unitTables.h"
 
-#include <bit>
 #include <cmath>
 #include <map>
 #include <set>

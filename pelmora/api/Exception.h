@@ -5,7 +5,6 @@
 #include "pelmora/gettext/gstringUtil.h"
 
 #include <stdexcept>
-#include <string>
 
 namespace Pelmora
 {

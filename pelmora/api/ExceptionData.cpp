@@ -1,9 +1,11 @@
 #include "pelmora/api/ExceptionData.h"
 
-#include "pelmora/api/utf8Message.h"
+#include "pelmora/base/detail/utf8.h"
 #include "pelmora/platform/localTime.h"
 
+#include <optional>
 #include <string_view>
+#include <utility>
 
 namespace Pelmora
 {
@@ -22,7 +24,8 @@ ExceptionData::DateTime now()
 GString messageOf(const std::exception& exception)
 {
     const std::string_view what = exception.what();
-    return GString(what, isWellFormedUtf8(what) ? Native::utf8CodePage : Native::ansiCodePage);
+    auto text = Native::decodedUtf8(what, Native::Utf8Form::characters);
+    return text ? GString(*std::move(text)) : GString(what);
 }
 
 } // namespace

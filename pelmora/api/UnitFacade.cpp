@@ -2,7 +2,6 @@
 
 #include "pelmora/units/unitText.h"
 
-#include <algorithm>
 #include <string>
 
 namespace Pelmora

@@ -33,16 +33,4 @@ std::string utf8Message(const GString& text)
     return message;
 }
 
-bool isWellFormedUtf8(std::string_view bytes) noexcept
-{
-    constexpr std::size_t longest = 4;
-    while (!bytes.empty()) {
-        const auto character = Native::decodeUtf8(bytes, longest);
-        if (!character || character->value > 0x10FFFF || isSurrogate(character->value))
-            return false;
-        bytes.remove_prefix(character->length);
-    }
-    return true;
-}
-
 } // namespace Pelmora

@@ -103,9 +103,8 @@ public:
             missing_ = elements.size();
             return fail(PELMORA_BUFFER_TOO_SMALL, "'buffer' is too small for the result");
         }
-        if (capacity_ > 0) {
+        if (capacity_ > 0)
             end(std::copy_n(elements.data(), elements.size(), first_));
-        }
         if (length_ != nullptr)
             *length_ = elements.size();
         return PELMORA_OK;

@@ -1,5 +1,7 @@
 #include "pelmora/c/dialogTemplate.h"
 
+#include "pelmora/c/border.h"
+
 using namespace Pelmora;
 using namespace Pelmora::C;
 

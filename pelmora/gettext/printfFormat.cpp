@@ -4,7 +4,6 @@
 #include "pelmora/gettext/printfNumber.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <string>
 

@@ -1,4 +1,5 @@
 #include "pelmora/gui/DialogTemplate.h"
+
 #include "pelmora/gui/FontUtil.h"
 #include "pelmora/gui/dialogLayout.h"
 #include "pelmora/gui/gdi.h"

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
-#include <optional>
 
 namespace Pelmora::Native
 {

@@ -3,7 +3,6 @@
 #include "pelmora/log/LogStream.h"
 #include "pelmora/platform/systemVersion.h"
 
-#include <optional>
 #include <variant>
 
 namespace Pelmora::Native

@@ -2,7 +2,6 @@
 
 #include "pelmora/base/wideChar.h"
 
-#include <cstddef>
 #include <span>
 
 // What the host must provide to convert between UTF-16 and the text of a Windows code page.

@@ -4,7 +4,6 @@
 #include "pelmora/units/UnitValue.h"
 #include "pelmora/units/isoFactor.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>

@@ -1,6 +1,5 @@
 #include "pelmora/pelmora.h"
 
-#include "pelmora/gettext/TextLocale.h"
 #include "tests/printing.h"
 
 #include <cstdlib>

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <tuple>
-#include <type_traits>
 #include <utility>
 
 #include <gtest/gtest.h>

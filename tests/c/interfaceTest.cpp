@@ -5,6 +5,7 @@
 #include "tests/units/sampleUnits.h"
 
 #include <bit>
+#include <cmath>
 #include <future>
 #include <random>
 #include <vector>

@@ -8,6 +8,7 @@
 
 namespace Pelmora::Native::Platform
 {
+
 /// libxml2 would do it by itself, but not safely when several threads come first.
 XmlErrors::Initialised XmlErrors::initialise()
 {

@@ -1,5 +1,7 @@
 #include "pelmora/platform/systemError.h"
 
+#include "pelmora/base/detail/utf8.h"
+
 #include <windows.h>
 
 namespace Pelmora::Native::Platform
@@ -12,11 +14,8 @@ std::string ansiToUtf8(const std::string& ansi)
     std::wstring wide(ansi.size(), L'\0'); // no character needs more units than bytes
     const int units = MultiByteToWideChar(CP_ACP, 0, ansi.data(), static_cast<int>(ansi.size()),
                                           wide.data(), static_cast<int>(wide.size()));
-    std::string utf8(3 * static_cast<std::size_t>(units), '\0');
-    const int bytes = WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, utf8.data(),
-                                          static_cast<int>(utf8.size()), nullptr, nullptr);
-    utf8.resize(static_cast<std::size_t>(bytes));
-    return utf8;
+    wide.resize(static_cast<std::size_t>(units));
+    return encodedUtf8(wide, Utf8Form::characters);
 }
 
 class SystemErrors : public std::error_category
