@@ -25,6 +25,11 @@ answer_help() {
     esac
 }
 
+# The version that CMakeLists.txt names.
+project_version() {
+    sed -n 's/^  VERSION \([0-9.]*\)$/\1/p' "$project/CMakeLists.txt"
+}
+
 # Options are no Wine prefixes.
 demand_prefix() {
     case $1 in
