@@ -91,17 +91,14 @@ namespace Pelmora.Tests
             var weight = new UnitValue(70, UnitOf(new UnitElement(UNIT_G_PT, KILO, 1)));
             UnitValue concentration =
                 new UnitValue(400, UnitOf(mg)) / new UnitValue(250, UnitOf(mL));
-            Assert.AreEqual("1.60 mg/mL", concentration.ToString(2));
 
             UnitValue rate = dose * weight;
             Assert.AreEqual("350 mcg/min", rate.ToString(0));
             Assert.AreNotSame(dose.unit.elements[0], rate.unit.elements[0]);
             UnitValue pump = rate.div(concentration).convertTo(UnitOf(mL, perHr));
-            Assert.AreEqual("13.1 mL/hr", pump.toNormalizedString(3));
             Assert.AreEqual(13.125, pump.value);
             Assert.AreNotSame(mL, pump.unit.elements[0]);
             Assert.AreEqual("0.0131 L/hr", pump.toNormalized(1).ToString(4));
-            Assert.AreEqual("5 mcg/kg/min", dose.ToString(0));
 
             UnitValue area = new UnitValue(3, UnitOf(new UnitElement(UNIT_M, NONE, 2))).convertTo(
                 UnitOf(new UnitElement(UNIT_CM, NONE, 1), new UnitElement(UNIT_M, NONE, 1)));

