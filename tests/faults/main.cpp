@@ -1,6 +1,7 @@
 #include "tests/faults/refusal.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <new>
 #include <string_view>
 
