@@ -1,6 +1,7 @@
 #include "pelmora/gettext/gstringUtil.h"
 #include "tests/printing.h"
 
+#include <cmath>
 #include <limits>
 #include <tuple>
 
