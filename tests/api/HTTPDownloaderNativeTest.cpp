@@ -36,6 +36,10 @@ TEST(Trust, ACertificateIsForItsHostOnly)
     EXPECT_FALSE(download("https://127.0.0.1:" + port + "/text"));
     EXPECT_FALSE(download(secure + "/to?http://127.0.0.1:" + plain + "/text"));
     unsetenv("SSL_CERT_FILE");
+    EXPECT_FALSE(download(secure + "/text"));
+    setenv("SSL_CERT_DIR", std::getenv("PELMORA_CERTIFICATES"), 1);
+    EXPECT_TRUE(download(secure + "/text"));
+    unsetenv("SSL_CERT_DIR");
 }
 
 TEST(Trust, DigestAuthentication)

@@ -70,6 +70,10 @@ static void units(void)
         GIVES(truth == 1, questions[i].ask(&questions[i].yes, 1, &truth));
         GIVES(truth == 0, questions[i].ask(&questions[i].no, 1, &truth));
     }
+    GIVES(count == 3, pelmora_unit_inverted(mgPerKgMin, 3, UNIT));
+    for (i = 1; i < 5; ++i)
+        GIVES(count == 3 * (i + 1), pelmora_unit_mul(elements, count, mgPerKgMin, 3, UNIT));
+    GIVES(isUnit("{ g\xB3, g^-3, s^-3 }"), pelmora_unit_reduced(elements, count, &number, UNIT));
     GIVES(isUnit("{ mg, kg^-1, min^-1, kg }"), pelmora_unit_mul(mgPerKgMin, 3, kg, 1, UNIT));
     /* In place. */
     GIVES(isUnit("{ mg, min^-1 }") && number == 1,
@@ -78,8 +82,11 @@ static void units(void)
     GIVES(isUnit("{ L, s^-1 }") && number == 0.001 / 3600,
           pelmora_unit_as_iso(mLPerHr, 2, &number, UNIT));
     GIVES(truth == 1, pelmora_unit_compatible(&perMin, 1, mLPerHr + 1, 1, &truth));
+    GIVES(truth == 0, pelmora_unit_compatible(mLPerHr, 1, mLPerHr + 1, 1, &truth));
     GIVES(truth == 0, pelmora_unit_equivalent(&perMin, 1, mLPerHr + 1, 1, &truth));
+    GIVES(truth == 1, pelmora_unit_equivalent(&perMin, 1, mgPerKgMin + 2, 1, &truth));
     GIVES(truth == 1, pelmora_unit_has_kind(mLPerHr, 2, PELMORA_UNIT_HR, -1, &truth));
+    GIVES(truth == 0, pelmora_unit_has_kind(mLPerHr, 2, PELMORA_UNIT_HR, 1, &truth));
     GIVES(isUnit("{ mL }"), pelmora_unit_remove_kind(mLPerHr, 2, PELMORA_UNIT_HR, UNIT));
     GIVES(natural == 3600, pelmora_unit_rate_divisor(mLPerHr, 2, &natural));
     GIVES(isUnit("{ L, hr^-1 }") && number == 0.001,
@@ -130,7 +137,8 @@ static void numbers(void)
     OK(pelmora_set_number_format(',', '.', 3));
     GIVES(isWide("1.234.567,2 mg"), pelmora_value_text(1234567.25, &mg, 1, 1, WIDE));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format('.', '.', 3));
-    FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format('1', ' ', 0));
+    FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format('0', ' ', 0));
+    FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format(',', '9', 3));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format('\xB7', ' ', 0));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format(',', '\0', 3));
     FAILS(PELMORA_BAD_ARGUMENT, pelmora_set_number_format(',', '.', -1));

@@ -37,7 +37,8 @@ TEST(Catalogue, EveryFormGivesTheSameTexts)
         EXPECT_EQ(catalogue.lookup("ab"), "zwei");
         EXPECT_EQ(catalogue.lookup("abc"), "");
         EXPECT_EQ(catalogue.lookup("one drug"), "ein Mittel");
-        EXPECT_EQ(catalogue.lookup("Caf\xC3\xA9"), "Kaffeehaus");
+        EXPECT_EQ(catalogue.lookup("Caf\xC3\xA9"), "Kaffeeh\xC3\xA4user");
+        EXPECT_EQ(catalogue.translate("Caf\xC3\xA9"), u"Kaffeeh\u00C3\u00A4user"); // as ANSI
         EXPECT_EQ(catalogue.translate("Dose"), u"Dosis");
         EXPECT_EQ(catalogue.translate("dose"), u"");
     }

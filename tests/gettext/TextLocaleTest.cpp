@@ -34,6 +34,7 @@ TEST(TextLocale, LanguageIsTheLastTwoCharactersBeforeTheEnding)
     for (const char* path : {".mo", "x.mo"}) {
         EXPECT_THROW(locale.init(path), std::out_of_range) << path;
         EXPECT_EQ(locale.path(), path);
+        EXPECT_EQ(locale.language(), "le");
         EXPECT_NE(locale.catalogue(), nullptr) << path;
     }
 }
@@ -101,8 +102,9 @@ TEST(TextLocale, TranslatorFromTheCatalogueReadsItsEncoding)
     gettext_locale.init(CATALOGUES "real.ja.mo"); // UTF-8
     const GString japanese = gettext_locale.tr("memory exhausted");
     EXPECT_EQ(japanese[0] >> 8, 0x30) << testing::PrintToString(japanese); // katakana
+    gettext_locale.init(CATALOGUES "real.es.mo");                          // iso-8859-1
+    EXPECT_EQ(gettext_locale.tr("Continuing anyway."), u"Se contin\u00FAa de todas formas.");
     gettext_locale.init("");
-    EXPECT_EQ(gettext_locale.catalogue_code_page(), 1252U);
     gettext_locale.set_translator(nullptr);
 }
 

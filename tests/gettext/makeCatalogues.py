@@ -40,7 +40,9 @@ def pairs(catalogue):
 def convert(source, target, charset, options):
     shown = subprocess.run(["msgunfmt", source], check=True, capture_output=True).stdout
     converted = subprocess.run(["msgconv", "-t", charset], input=shown, check=True, capture_output=True)
-    subprocess.run(["msgfmt", *options, "-o", target, "-"], input=converted.stdout, check=True)
+    # Something else in the header names the other encoding.
+    content = converted.stdout.replace(b'"MIME-Version', b'"X-Converted-From: UTF-8\\n"\n"MIME-Version', 1)
+    subprocess.run(["msgfmt", *options, "-o", target, "-"], input=content, check=True)
 
 
 # From the packages gettext and gettext-base, which this script needs anyway.

@@ -90,7 +90,7 @@ TEST(DialogTemplateBytes, CaptionAndFontAreReplaced)
         sample.weightAndCharset = sample.hasFace() ? sample.weightAndCharset : std::u16string(2, 0);
         sample.hasFont = true;
         sample.pointSize = 9;
-        for (int round = 0; round < 30; ++round) {
+        for (int round = 0; round < 8; ++round) {
             sample.face = faces[round % 4];
             EXPECT_TRUE(dialog.setFont(textOf(sample.face), 9));
             expectSame(dialog, sample);

@@ -1,7 +1,12 @@
 #include "pelmora/gui/FontUtil.h"
 
+#include "pelmora/gui/DialogTemplate.h"
+#include "pelmora/gui/drawing.h"
 #include "pelmora/gui/gdi.h"
 
+#include "tests/gui/sampleDialogs.h"
+
+#include <algorithm>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -24,6 +29,7 @@ TEST(FontUtil, FontsAreWhatWasAskedFor)
         EXPECT_EQ(found.lfWeight, bold ? 700 : 400);
         EXPECT_EQ(found.lfItalic, bold ? 0 : 1);
         EXPECT_EQ(found.lfPitchAndFamily, 32);
+        EXPECT_EQ(found.lfCharSet, FontUtil::systemCharset());
         TEXTMETRICA metrics;
         FontUtil::textMetrics(metrics, font.get());
         EXPECT_EQ(height > 0 ? metrics.tmHeight : metrics.tmInternalLeading - metrics.tmHeight,
@@ -68,13 +74,25 @@ TEST(FontUtil, SizesAndHeights)
 
 TEST(FontUtil, NothingLeaks)
 {
-    // A process has some 65,000 handles: one kept in every round would be missing before the end.
+    // With nearly all handles of a process in use, one kept in every round would soon be missing.
+    std::vector<HBRUSH> taken;
+    while (const HBRUSH brush = CreateSolidBrush(0))
+        taken.push_back(brush);
+    constexpr std::size_t rounds = 300;
+    ASSERT_GT(taken.size(), rounds);
+    for (std::size_t i = 0; i < rounds; ++i)
+        DeleteObject(taken[i]);
+    const DialogTemplate dialog(built({.face = u"Tahoma"}));
+    const int line = dialog.getBaseUnits().y;
     Font font;
-    for (int round = 0; round < 70'000; ++round) {
+    for (std::size_t round = 0; round < rounds; ++round) {
         ASSERT_TRUE(font.attach(FontUtil::createHandle("Tahoma", -13, false, false)));
         ASSERT_GT(FontUtil::textHeight(font.get()), 0);
         ASSERT_EQ(FontUtil::decipointsToHeight(100), -13);
+        ASSERT_EQ(dialog.getBaseUnits().y, line);
+        drawSolidRect(Gdi::MemoryDc().get(), 0, 0, 9, 9, RGB(1, 2, 3));
     }
+    std::for_each(taken.begin() + rounds, taken.end(), DeleteObject);
     Font other(std::move(font));
     font = std::move(other);
     EXPECT_TRUE(font.attach(font.get()));

@@ -176,6 +176,10 @@ TEST(Dialogs, UnitsAreThoseOfTheFont)
     EXPECT_TRUE(FontUtil::create(font, "Liberation Sans", -11, false, false));
     const int line = dialog.getBaseUnits().y;
     EXPECT_GE(line, FontUtil::textHeight(font.get())); // and external leading
+    const HWND window = madeFrom(built({.face = u"Liberation Sans"}), nullptr);
+    RECT pixels = {400, 0, 0, 0};
+    EXPECT_TRUE(MapDialogRect(window, &pixels) && DestroyWindow(window));
+    EXPECT_EQ(dialog.dialogToPixels({400, 0}).x, pixels.left);
     EXPECT_EQ(dialog.dialogToPixels({7, -3}).y, MulDiv(-3, line, 8));
     EXPECT_EQ(dialog.pixelsToDialog({101, 99}).y, MulDiv(99, 8, line));
 }

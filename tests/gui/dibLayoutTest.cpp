@@ -49,6 +49,8 @@ TEST(DibLayout, PixelsFollowHeaderAndTable)
         {{.width = 1, .height = 1, .bitCount = 16, .compression = 3}, 40, 16}, // with its masks
         {{.width = 1, .height = 1, .bitCount = 16, .compression = 6}, 40, 16},
         {{.bitCount = 4, .compression = 2, .imageSize = 33}, 104, 33},
+        {{.bitCount = 8, .compression = 1, .imageSize = 33}, 1064, 33},
+        {{.compression = 5, .imageSize = 33}, 40, 33},
     };
     for (const auto& [fields, offset, pixelBytes] : rows) {
         EXPECT_EQ(dibPixelOffset(resource(fields, offset + pixelBytes)), offset);

@@ -91,6 +91,9 @@ TEST(Drawing, PicturesOfEveryDepth)
             EXPECT_EQ(GetStretchBltMode(canvas.dc()), HALFTONE);
         }
     }
+    const Canvas canvas;
+    EXPECT_TRUE(showDib(canvas.dc(), 320, {4, 2, 2, 1}, {2, 1, 2, 1}, module.get())); // a part
+    canvas.expect({4, 2, 6, 3}, [](int x, int) { return patternAt(x - 2, 1); });
     const LogCapture log;
     EXPECT_FALSE(showDib(Canvas().dc(), 999, whole, whole, module.get()));
     EXPECT_EQ(log.text(), "Utillib::showDib(..) resource error\n");

@@ -88,6 +88,11 @@ TEST(Monitors, OfSeveralTheRightOneIsMeasured)
     }
     const RECT area = system.workAreaOfWindow(onLeft);
     EXPECT_EQ(std::pair(area.left, area.bottom), std::pair(-1280L, 784L));
+    EXPECT_EQ(system.workAreaOfWindow(nullptr).left, 0);
+    const HWND main =
+        CreateWindowA("STATIC", "", WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(system.workAreaOfWindow(nullptr).left, -1280); // the thread's window is there
+    DestroyWindow(main);
     SetCursorPos(7, 5);
     EXPECT_EQ(system.workAreaAtPoint(-1, -1).left, 0);
     EXPECT_EQ(system.workAreaAtPoint(-1, 5).left, -1280); // a point, not the cursor

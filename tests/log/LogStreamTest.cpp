@@ -191,20 +191,44 @@ TEST_F(LogStreamDeathTest, GoesOnWhenTheLibraryIsUnloadedAndLoadedAgain)
     EXPECT_EQ(written(), "HEADER\nfirst\nsecond\n-eof-\n");
 }
 
+TEST_F(LogStreamDeathTest, HeaderIsTranslatedAndNamesTheSystem)
+{
+    inAProcess([] {
+        gettext_locale.set_translator(
+            [](std::string id) { return GString(id == "Date:" ? u"Dat\u00E9:" : u" Heure:"); });
+        get_log();
+        std::_Exit(0);
+    });
+    std::ifstream file(path());
+    std::string line;
+    std::getline(file, line);
+    EXPECT_EQ(line.substr(0, 5) + line.substr(13, 7), "Dat\xE9: Heure:");
+    std::getline(file, line);
+    EXPECT_TRUE(line.starts_with(nameOfSystem())) << line;
+}
+
 TEST_F(LogStreamDeathTest, AFileThatCannotBeMadeDropsEverything)
 {
-    EXPECT_EXIT(
-        {
-            testing::internal::CaptureStdout();
-            log_settings().file_name = "no such folder/errors.txt";
-            get_log() << "dropped" << 5 << endl;
-            get_log().write_separator();
-            const bool dropped = get_log().file() == nullptr && get_log().is_ok();
-            std::fputs((testing::internal::GetCapturedStdout() + (dropped ? "|" : "")).c_str(),
-                       stderr);
-            std::exit(set_show_in_notepad(false) ? 1 : 0);
-        },
-        testing::ExitedWithCode(0), "unable to open .*no such folder/errors.txt\\|");
+    const std::pair<const char*, const char*> rows[] = {
+        // the file's name and where it is then, in a temporary folder or not
+        {"none/errors.txt", ".*else.none/errors.txt"},
+        {"q:/none/errors.txt", "q:/none/errors.txt"},
+    };
+    for (const auto& [name, place] : rows)
+        EXPECT_EXIT(
+            {
+                testing::internal::CaptureStdout(); // into a file in the temporary folder
+                for (const char* const variable : {"TMPDIR=", "TEMP=", "TMP=/else"})
+                    putenv(const_cast<char*>(variable));
+                log_settings().file_name = name;
+                get_log() << "dropped" << 5 << endl;
+                get_log().write_separator();
+                const bool dropped = get_log().file() == nullptr && get_log().is_ok();
+                std::fputs((testing::internal::GetCapturedStdout() + (dropped ? "|" : "")).c_str(),
+                           stderr);
+                std::exit(set_show_in_notepad(false) ? 1 : 0);
+            },
+            testing::ExitedWithCode(0), std::string("unable to open ") + place + "\\|");
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 // What the tests of the log ask of the system, with one source for each in win32/ and posix/.
 
 namespace Pelmora
@@ -10,6 +12,9 @@ void leaveGreenwich();
 
 /// Forks a child that ends as a program does, and waits for it; where there is no fork, nothing.
 void forkAndEndTheChild();
+
+/// Release and processor included, where a command prints them; otherwise the beginning.
+std::string nameOfSystem();
 
 void* loadLibrary(const char* path);
 void* symbolOf(void* library, const char* name);

@@ -37,9 +37,11 @@ TEST(Regi, FailuresAreOneLineEachWhenAskedFor)
     const HKEY root = HKEY_CURRENT_USER;
     const std::string path = keys.path + "\\a";
     const std::string notFound = systemErrorText(ERROR_FILE_NOT_FOUND) + "\n";
-    const std::string lines = "regiRead(" + path + "\\x) - open error: " + notFound +
-                              "regiDelete(" + path + "\\x) - deletion error: " + notFound +
-                              "regiDeleteKey(" + path + ") - deletion error: " + notFound;
+    const std::string lines =
+        "regiRead(" + path + "\\x) - open error: " + notFound + "regiDelete(" + path +
+        "\\x) - deletion error: " + notFound + "regiDeleteKey(" + path +
+        ") - deletion error: " + notFound +
+        "regiWrite(a\\b) = 'c' - open error: " + systemErrorText(ERROR_INVALID_HANDLE) + "\n";
     const std::string further = "regiRead(" + path + "\\absent) - read error: " + notFound +
                                 "regiDelete(" + path + "\\absent) - deletion error: \n" +
                                 "regiDeleteKey(" + keys.path + ") - deletion error: ";
@@ -47,6 +49,7 @@ TEST(Regi, FailuresAreOneLineEachWhenAskedFor)
         const LogCapture log;
         EXPECT_EQ(regiRead(root, path, "x", "d", wanted), "d"); // makes no key
         EXPECT_FALSE(regiDelete(root, path, "x", wanted) || regiDeleteKey(root, path, wanted));
+        EXPECT_FALSE(regiWrite(reinterpret_cast<HKEY>(1), "a", "b", "c", wanted));
         EXPECT_EQ(log.text(), wanted ? lines : "");
     }
     EXPECT_TRUE(regiWrite(root, path, "text", "7"));

@@ -86,6 +86,8 @@ TEST(Unit, FactorsCountForEquivalenceNotForCompatibility)
         {unitOf({g}), unitOf({{UNIT_G_PT, NONE, 1}}), false, false},
         {unitOf({{UNIT_G, NONE, 40}, {UNIT_G, NONE, 24}}), unitOf({mL}), false, false},
         {unitOf({{UNIT_G, NONE, 256}}), unitOf({{UNIT_L, NONE, 4}}), false, false},
+        {unitOf({{UNIT_G, NONE, 4}, {UNIT_G, NONE, 3}, {UNIT_G, NONE, 2}}),
+         unitOf({{UNIT_L, NONE, 1}, {UNIT_G, NONE, -4}, {UNIT_G, NONE, -3}}), false, false},
         {unitOf({g, g, g, g, g, g, g, g, g}), unitOf({mL}), false, false},
     };
     for (const auto& [a, b, compatible, equivalent] : rows) {
@@ -107,7 +109,7 @@ TEST(Unit, AreCompatibleWhenTheirIsoFormsAreEqual)
         return unit;
     };
     int compatible = 0;
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < 5000; ++i) {
         const std::size_t most = i % 2 == 0 ? 4 : 12;
         const Unit a = anyUnit(most);
         Unit b = i % 3 == 0 ? a : anyUnit(most);
@@ -117,7 +119,7 @@ TEST(Unit, AreCompatibleWhenTheirIsoFormsAreEqual)
         ASSERT_EQ(a.compatibleWith(b), expected)
             << testing::PrintToString(a) << testing::PrintToString(b);
     }
-    EXPECT_GT(compatible, 7000);
+    EXPECT_GT(compatible, 1700);
 }
 
 TEST(Unit, ClassesNeedTheExactExponentInTheIsoForm)

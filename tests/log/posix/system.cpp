@@ -1,5 +1,6 @@
 #include "tests/log/system.h"
 
+#include <cstdio>
 #include <cstdlib>
 
 #include <dlfcn.h>
@@ -19,6 +20,15 @@ void forkAndEndTheChild()
     if (fork() == 0)
         std::exit(0);
     wait(nullptr);
+}
+
+std::string nameOfSystem()
+{
+    std::FILE* const printed = popen("uname -srm", "r");
+    char name[200] = {};
+    const std::size_t length = std::fread(name, 1, sizeof name, printed);
+    pclose(printed);
+    return {name, length - 1}; // without the line's end
 }
 
 void* loadLibrary(const char* path)

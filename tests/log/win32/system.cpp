@@ -14,6 +14,11 @@ void leaveGreenwich()
 
 void forkAndEndTheChild() {}
 
+std::string nameOfSystem()
+{
+    return "Windows ";
+}
+
 void* loadLibrary(const char* path)
 {
     return LoadLibraryA(path);
