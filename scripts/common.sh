@@ -1,7 +1,7 @@
 # What the scripts share; each reads this file first.
 
 script=$(realpath "$0")
-project=$(dirname "$(dirname "$script")")
+project=${script%/*/*}
 
 # The heading comment of the script is its help.
 help() {
