@@ -39,7 +39,8 @@ demand_prefix() {
 
 # with_progress WHAT LOG COMMAND [ARGUMENT...]: runs a long command with its output in a file, and
 # says every few seconds how far it is: the last percentage that it printed, or else the seconds.
-# Shows the output when the command failed.
+# Shows the output when the command failed. A function may be the command, but goes on behind what fails in
+# it, as everything does whose status is asked for: let it return by itself.
 with_progress() {
     what=$1
     log=$2
