@@ -198,29 +198,19 @@ TEST(ManagedXMLParser, FailuresThatAreExceptions)
 TEST(ManagedXMLParser, MalformedTextGivesFalseAndForgetsTheDocument)
 {
     const GString rows[] = {
-        // tags and nesting
-        u"", u" ", u"text", u"<a>", u"<a></b>", u"<a></a", u"<a/><b/>", u"<a/>text", u"</a>",
-        u"<a><b></a></b>", u"< a/>",
-        // attributes
-        u"<a b/>", u"<a b=c/>", u"<a b='1' b='2'/>", u"<a b='1'c='2'/>", u"<a b='<'/>",
-        u"<a b='1/>", u"<a b='&'/>",
-        // names
-        u"<1/>", u"<a 1='x'/>", u"<-a/>",
+        // tags and attributes
+        u"", u" ", u"text", u"<a>", u"<a></b>", u"<a/><b/>", u"<a/>text", u"<a b/>",
+        u"<a b='1' b='2'/>", u"<a b='1/>", u"<1/>",
         // references and entities
-        u"<a>&b;</a>", u"<a>&</a>", u"<a>&#0;</a>", u"<a>&#xD800;</a>", u"<a>&#x;</a>",
-        u"<a>&#12</a>", u"<!DOCTYPE a [<!ENTITY e '&e;'>]><a>&e;</a>",
+        u"<a>&b;</a>", u"<a>&</a>", u"<a>&#0;</a>", u"<a>&#xD800;</a>", u"<a b='&'/>",
+        u"<!DOCTYPE a [<!ENTITY e '&e;'>]><a>&e;</a>",
         u"<!DOCTYPE a [<!ENTITY e '<b>'>]><a>&e;</a>",
         u"<!DOCTYPE a [<!ENTITY e SYSTEM 'none'>]><a b='&e;'/>",
         // characters
-        u"<a>\u0001</a>", u"<a>\uFFFE</a>", u"<a>]]></a>",
-        GString(Pelmora::WideString{'<', 'a', '/', '>', 0}),
+        u"<a>\u0001</a>", u"<a>\uFFFE</a>", GString(Pelmora::WideString{'<', 'a', '/', '>', 0}),
         GString(Pelmora::WideString{'<', 'a', '>', 0xD83D, '<', '/', 'a', '>'}),
-        // CDATA, comments and processing instructions
-        u"<a><![CDATA[</a>", u"<a><![cdata[x]]></a>", u"<![CDATA[x]]>", u"<a><!-- -- --></a>",
-        u"<a><!-- </a>", u"<a><?xml version='1.0'?></a>", u"<a><? x?></a>", u"<a><?x</a>",
-        // declarations
-        u" <?xml version='1.0'?><a/>", u"<?xml encoding='utf-8'?><a/>",
-        u"<?xml version='1.0' standalone='maybe'?><a/>", u"<?xml version='1.0' encoding='?'?><a/>",
+        // what does not end, and declarations
+        u"<a><![CDATA[</a>", u"<a><!-- </a>", u"<a><?x</a>", u" <?xml version='1.0'?><a/>",
         u"<!DOCTYPE a [<!ELEMENT a>]><a/>", u"<a/><!DOCTYPE a>"};
     ManagedXMLParser parser;
     for (const auto& xml : rows) {
