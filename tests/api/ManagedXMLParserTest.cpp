@@ -146,6 +146,7 @@ TEST(ManagedXMLParser, FilesInTheirEncodings)
     ManagedXMLParser parser;
     for (const auto& bytes : rows) {
         TemporaryFolder::write(folder.path(u"caf\u00E9 1.xml"), bytes);
+        const std::ifstream otherReader(folder.path(u"caf\u00E9 1.xml"));
         EXPECT_TRUE(parser.parseFromFile((folder.name("caf\xE9 1.xml")).c_str())) << bytes;
         EXPECT_EQ(parser.getElement(u"r"), u"\u00E9") << bytes;
     }

@@ -3,6 +3,7 @@
 
 #include "pelmora/gui/DialogTemplate.h"
 #include "pelmora/gui/FontUtil.h"
+#include "pelmora/gui/dateTime.h"
 #include "pelmora/gui/drawing.h"
 #include "pelmora/gui/gdi.h"
 #include "pelmora/registry/systemErrorText.h"
@@ -29,9 +30,15 @@ int failingStretch()
     return static_cast<int>(GDI_ERROR);
 }
 
+void WINAPI nearlyTheYear2000(SYSTEMTIME* time)
+{
+    *time = {1999, 12, 5, 31, 23, 59, 58, 0};
+}
+
 } // namespace
 
 extern "C" {
+void* __imp_GetLocalTime = reinterpret_cast<void*>(nearlyTheYear2000);
 void* __imp_CreateFontA = reinterpret_cast<void*>(failingCreateFont);
 void* __imp_StretchDIBits = reinterpret_cast<void*>(failingStretch);
 }
@@ -52,6 +59,12 @@ TEST(GuiFailures, TheSystemsFontTakesThePlaceOfAnother)
     EXPECT_EQ(FontUtil::createHandle("No face", -13, true, false), nullptr);
     const DialogPoint base = DialogTemplate(built({})).getBaseUnits();
     EXPECT_EQ(MAKELONG(base.x, base.y), GetDialogBaseUnits());
+}
+
+TEST(GuiFailures, DatesAndTimesAreLocal)
+{
+    EXPECT_NE(currentDateText(true).find("1999"), std::string::npos) << currentDateText(true);
+    EXPECT_NE(currentTimeText(true).find(":59:58"), std::string::npos) << currentTimeText(true);
 }
 
 TEST(GuiFailures, APictureThatIsNotDrawnIsReported)

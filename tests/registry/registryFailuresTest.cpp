@@ -2,8 +2,12 @@
 
 #include "pelmora/registry/RegistryKey.h"
 
+#include "pelmora/registry/regi.h"
 #include "pelmora/registry/systemErrorText.h"
 
+#include "tests/LogCapture.h"
+
+#include <algorithm>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -38,6 +42,13 @@ LSTATUS WINAPI createKey(HKEY, const char*, DWORD, char*, DWORD, REGSAM access,
     return answer(creates | access, key);
 }
 
+/// Fills the buffer without a NUL.
+LSTATUS WINAPI enumerateValue(HKEY, DWORD, char* name, DWORD* size, DWORD*, DWORD*, BYTE*, DWORD*)
+{
+    std::fill_n(name, *size, 'n');
+    return ERROR_MORE_DATA;
+}
+
 LSTATUS WINAPI closeKey(HKEY)
 {
     ++closed;
@@ -59,6 +70,7 @@ LSTATUS WINAPI queryValue(HKEY, const char* name, DWORD*, DWORD* type, BYTE* dat
 extern "C" {
 void* __imp_RegOpenKeyExA = reinterpret_cast<void*>(openKey);
 void* __imp_RegCreateKeyExA = reinterpret_cast<void*>(createKey);
+void* __imp_RegEnumValueA = reinterpret_cast<void*>(enumerateValue);
 void* __imp_RegCloseKey = reinterpret_cast<void*>(closeKey);
 void* __imp_RegQueryValueExA = reinterpret_cast<void*>(queryValue);
 }
@@ -87,6 +99,16 @@ TEST(RegistryFailures, ModesAskForTheirAccess)
             EXPECT_EQ(calls, denies ? denied : allowed);
         }
     }
+}
+
+TEST(RegistryFailures, WhatCannotBeWrittenOrNamedIsReportedOrCut)
+{
+    deniesWriting = false;
+    const LogCapture log;
+    EXPECT_FALSE(regiWrite(HKEY_CURRENT_USER, "a", "b", "c", true)); // opens no real key
+    EXPECT_EQ(log.text(), "regiWrite(a\\b) = 'c' - write error: " +
+                              systemErrorText(ERROR_INVALID_HANDLE) + "\n");
+    EXPECT_EQ(*RegistryKey().valueNamesBegin(), std::string(255, 'n'));
 }
 
 TEST(RegistryFailures, AHandleIsClosedOnceAndAChangingValueIsNotRead)
