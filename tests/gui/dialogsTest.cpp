@@ -175,11 +175,14 @@ TEST(Dialogs, UnitsAreThoseOfTheFont)
     Font font; // 8 points are 10.67 pixels
     EXPECT_TRUE(FontUtil::create(font, "Liberation Sans", -11, false, false));
     const int line = dialog.getBaseUnits().y;
-    EXPECT_GE(line, FontUtil::textHeight(font.get())); // and external leading
-    const HWND window = madeFrom(built({.face = u"Liberation Sans"}), nullptr);
-    RECT pixels = {400, 0, 0, 0};
-    EXPECT_TRUE(MapDialogRect(window, &pixels) && DestroyWindow(window));
-    EXPECT_EQ(dialog.dialogToPixels({400, 0}).x, pixels.left);
+    EXPECT_GE(line, FontUtil::textHeight(font.get()));      // and external leading
+    for (std::uint16_t points = 7; points < 15; ++points) { // the average width is rounded
+        const Bytes sized = built({.pointSize = points, .face = u"Liberation Sans"});
+        const HWND window = madeFrom(sized, nullptr);
+        RECT pixels = {400, 0, 0, 0};
+        EXPECT_TRUE(MapDialogRect(window, &pixels) && DestroyWindow(window));
+        EXPECT_EQ(DialogTemplate(sized).dialogToPixels({400, 0}).x, pixels.left) << points;
+    }
     EXPECT_EQ(dialog.dialogToPixels({7, -3}).y, MulDiv(-3, line, 8));
     EXPECT_EQ(dialog.pixelsToDialog({101, 99}).y, MulDiv(99, 8, line));
 }
