@@ -6,17 +6,12 @@
 namespace Pelmora
 {
 
-using Prio = ExceptionDataEnums::prio_enum;
-using Type = ExceptionDataEnums::type_enum;
-
 static_assert(DrugEnum::NUMBER_OF == DrugEnum(150) && DrugEnum::CUSTOMDRUG4 == DrugEnum(98));
-static_assert(DrugCategory::uninitialized == DrugCategory(-1));
 static_assert(int(DrugCategory::size) - int(DrugCategory::end) == 2);
 static_assert(FocusPictureType::PICT_DERMAL_PATCH == FocusPictureType(21));
 static_assert(AdminType::ADMIN_NUMBER_OF == AdminType(16));
 static_assert(UnitType::UNITS_NUMBER_OF == UnitType(10));
 static_assert(BloodLab::CA_LAB == BloodLab(58) && BloodLab::ALL_LABS == BloodLab(65535));
 static_assert(VenousPanels::ALL_PANELS == VenousPanels(65535));
-static_assert(Prio::PRIO_NOTE == Prio(2) && Type::TYPE_DEBUGMESSAGE == Type(2));
 
 } // namespace Pelmora
